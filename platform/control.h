@@ -1,0 +1,57 @@
+#pragma once
+
+#include "platform/color.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+class QWidget;
+
+/// What a form states of a control. Places are device-independent pixels from the top left of the window's
+/// content, also for a control inside a group box. What a kind of control has no use for is passed over.
+struct ControlProperties {
+    std::string_view caption = {};        ///< text of a label, a button, a check box or a group box
+    std::string_view accessibleName = {}; ///< what an input without a caption of its own is called
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+    int tabIndex = 0;  ///< place in the keyboard order, lowest first, counted within the parent
+    int textSize = 12; ///< height of the font in pixels; 0 leaves it to the platform
+    bool bold = false;
+    bool visible = true;
+    bool enabled = true;
+    bool readOnly = false;                ///< text fields only
+    std::optional<Color> background = {}; ///< text fields only; without one a field is white
+};
+
+/// One control of a window. It owns the widget that stands for it on the screen and ends it, so no event
+/// comes for a control that is gone.
+class Control {
+public:
+    virtual ~Control();
+    Control(Control const &) = delete;
+    Control &operator=(Control const &) = delete;
+
+    /// The text that appears while the pointer rests on the control.
+    void Tooltip(std::string_view text);
+
+protected:
+    /// Takes the widget over.
+    Control(QWidget *widget, std::string const &name);
+
+    [[nodiscard]] QWidget &Widget() const;
+    virtual void Apply(ControlProperties const &properties);
+
+private:
+    friend class Window;
+    friend void _SetProperties(Control &control, ControlProperties const &properties);
+
+    std::unique_ptr<QWidget> widget_;
+    int tabIndex_ = 0;
+};
+
+/// Applies a stored set of properties to a control.
+void _SetProperties(Control &control, ControlProperties const &properties);

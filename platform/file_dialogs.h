@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/files.h"
+
+#include <optional>
+#include <string>
+
+/// Asks the user for a file to open.
+class OpenDialog {
+public:
+    FolderItem InitialDirectory{""};
+    std::string Title;
+
+    /// The chosen file, or nothing if the user cancels.
+    [[nodiscard]] std::optional<FolderItem> ShowModal() const;
+};
+
+/// Asks the user for the name of a file to save, and before one is overwritten.
+class SaveAsDialog {
+public:
+    FolderItem InitialDirectory{""};
+    std::string PromptText; ///< the label of the file name
+    std::string SuggestedFileName;
+    std::string Title;
+
+    /// The chosen place, or nothing if the user cancels.
+    [[nodiscard]] std::optional<FolderItem> ShowModal() const;
+};

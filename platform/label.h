@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/control.h"
+
+/// A fixed text on the form. A bold caption too wide for its place is condensed.
+class Label final : public Control {
+public:
+    Label(QWidget *parent, std::string const &name);
+
+    /// Lets the text run over several centred lines.
+    void Multiline();
+
+private:
+    void Apply(ControlProperties const &properties) override;
+};

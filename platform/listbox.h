@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/control.h"
+
+#include <cstdint>
+
+/// A list of rows with one or more columns of text. Rows and columns count from 0; a read outside the list
+/// gives an empty text, a write outside it is passed over. Appending costs the same at any length.
+class Listbox final : public Control {
+public:
+    Listbox(QWidget *parent, std::string const &name);
+
+    /// How a cell's text is aligned.
+    enum Alignment { Default = 0, Left = 1, Right = 3 };
+
+    /// Appends a row with this text in its first column, and brings it into sight.
+    void AddRow(std::string_view text);
+    /// Removes one row; later rows move up, and the last one that remains comes into sight.
+    void RemoveRow(std::int64_t row);
+    void DeleteAllRows();
+    [[nodiscard]] std::int64_t ListCount() const;
+
+    /// The text of a row's first column.
+    [[nodiscard]] std::string List(std::int64_t row) const;
+    [[nodiscard]] std::string Cell(std::int64_t row, int column) const;
+    void Cell(std::int64_t row, int column, std::string_view text);
+    void CellAlignment(std::int64_t row, int column, Alignment alignment);
+
+    [[nodiscard]] int ColumnCount() const;
+    void ColumnCount(int count);
+    /// Widths in pixels, separated by commas; columns without one share what is left.
+    void ColumnWidths(std::string_view widths);
+    /// 0: one row can be selected at a time, 1: several.
+    void RowSelectionType(int type);
+
+private:
+    void Apply(ControlProperties const &properties) override;
+};

@@ -1,0 +1,115 @@
+#include "platform/printing.h"
+
+#include "platform/doors.h"
+#include "platform/qt/desktop_doors.h"
+#include "platform/qt/guard.h"
+#include "platform/qt/save_file.h"
+#include "platform/qt/text.h"
+#include "platform/qt/top_level.h"
+
+#include <QBuffer>
+#include <QFileInfo>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPrintDialog>
+#include <QPrinter>
+
+namespace {
+
+constexpr double kUnitsPerInch = 72.0;
+constexpr int kFontHeight = 12;
+
+} // namespace
+
+/// What a job is drawn on: the printer, or for a file a document in memory that is saved when it is complete,
+/// so that a full or unwritable disk is noticed and an older file survives it.
+class PrintJob {
+public:
+    explicit PrintJob(std::unique_ptr<QPrinter> printer) : printer_(std::move(printer)) {
+        if (file().isEmpty()) {
+            begin(*printer_, printer_->resolution());
+        } else {
+            document_.open(QIODevice::WriteOnly);
+            writer_ = std::make_unique<QPdfWriter>(&document_);
+            writer_->setResolution(printer_->resolution());
+            writer_->setPageLayout(printer_->pageLayout());
+            begin(*writer_, printer_->resolution());
+        }
+    }
+
+    [[nodiscard]] QString file() const { return printer_->outputFileName(); }
+
+    void draw(QPointF place, QString const &text) {
+        if (painter_.isActive()) {
+            painter_.drawText(place, text);
+        }
+    }
+
+    void nextPage() { hasPages_ = hasPages_ && (writer_ ? writer_->newPage() : printer_->newPage()); }
+
+    /// Ends the job. Gives the reason of a failure, empty if there was none.
+    QString end() {
+        bool const isDrawn = painter_.isActive() && painter_.end() && hasPages_;
+        if (writer_ == nullptr) {
+            QPrinter::PrinterState const state = printer_->printerState();
+            bool const isSent = isDrawn && state != QPrinter::Error && state != QPrinter::Aborted;
+            return isSent
+                       ? QString()
+                       : QStringLiteral("the printer \"%1\" did not take them").arg(printer_->printerName());
+        }
+        writer_.reset();
+        return isDrawn ? SaveWhole(file(), document_.data()) : QStringLiteral("its pages could not be drawn");
+    }
+
+private:
+    void begin(QPaintDevice &device, int resolution) {
+        hasPages_ = painter_.begin(&device);
+        if (hasPages_) {
+            QFont font(QStringLiteral("sans-serif"));
+            font.setStyleHint(QFont::SansSerif);
+            font.setPixelSize(kFontHeight);
+            painter_.scale(resolution / kUnitsPerInch, resolution / kUnitsPerInch);
+            painter_.setFont(font);
+            painter_.setPen(Qt::black);
+        }
+    }
+
+    std::unique_ptr<QPrinter> printer_;
+    QBuffer document_;
+    std::unique_ptr<QPdfWriter> writer_;
+    QPainter painter_;
+    bool hasPages_ = false;
+};
+
+Graphics::Graphics(std::unique_ptr<PrintJob> job) : job_(std::move(job)) {}
+
+Graphics::~Graphics() {
+    QString const reason = job_->end();
+    if (!reason.isEmpty() && Failed) {
+        Guarded(Failed, FromQt(QFileInfo(job_->file()).fileName()), FromQt(reason));
+    }
+}
+
+void Graphics::DrawString(std::string_view text, double x, double y, double /*width*/, bool /*condense*/) {
+    job_->draw(QPointF(x, y), ToQt(text));
+}
+
+void Graphics::NextPage() {
+    job_->nextPage();
+}
+
+bool ShowPrintDialog(QPrinter &printer) {
+    QPrintDialog dialog(&printer, TopLevel::front());
+    return dialog.exec() == QDialog::Accepted;
+}
+
+std::unique_ptr<Graphics> OpenPrinterDialog() {
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setPageOrientation(QPageLayout::Portrait);
+    printer->setFullPage(true);
+    if (!PlatformDoors().printDialog(*printer)) {
+        return nullptr;
+    }
+    printer->setFullPage(true); // a page set up in the dialog has margins again
+    return std::make_unique<Graphics>(std::make_unique<PrintJob>(std::move(printer)));
+}

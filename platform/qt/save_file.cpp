@@ -1,0 +1,48 @@
+#include "platform/qt/save_file.h"
+
+#include "platform/qt/native.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace {
+
+/// The file system's own words, or ours where it has none.
+QString Worded(QString const &path, QString const &reason) {
+    constexpr int kLongestName = 248; // bytes; the temporary beside the file needs seven more, of 255
+    if (QFile::encodeName(QFileInfo(path).fileName()).size() > kLongestName) {
+        return QStringLiteral("its name is too long");
+    }
+    bool const saysNothing = reason.isEmpty() || reason == QLatin1String("Unknown error");
+    return saysNothing ? QStringLiteral("it could not be written to its end") : reason;
+}
+
+/// Writes and flushes. Left to itself the toolkit would notice a full disk only after the old file is gone.
+QString WriteAll(QSaveFile &file, QByteArray const &bytes) {
+    qint64 const written = file.write(bytes);
+    if (written == bytes.size()) {
+        return FlushToDisk(file.handle());
+    }
+    bool const isShort = written >= 0;
+    return isShort ? QStringLiteral("there is no space left for it") : file.errorString();
+}
+
+} // namespace
+
+QString SaveWhole(QString const &path, QByteArray const &bytes) {
+    QFileInfo const place(path);
+    if (place.exists() && !place.isFile()) {
+        return QStringLiteral("it is not a plain file");
+    }
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        return Worded(path, file.errorString());
+    }
+    QString const fault = WriteAll(file, bytes);
+    if (!fault.isEmpty()) {
+        file.cancelWriting();
+        return Worded(path, fault);
+    }
+    return file.commit() ? QString() : Worded(path, file.errorString());
+}
