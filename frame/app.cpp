@@ -1,0 +1,3 @@
+#include "frame/app.h"
+
+App::App() = default;

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "frame/windows.h"
+#include "platform/menu.h"
+
+/// The one menu bar of the run, shown by all three windows. It never changes; which items are on depends on
+/// the window in front. What the items do stands with the windows: see frame/mainscreen.h.
+class Menu final : public MenuBar {
+private:
+    friend class Menu & ::Menu();
+
+    Menu();
+    virtual void Untitled0();
+    virtual void Untitled1();
+    virtual void Untitled2();
+    virtual void Untitled3();
+
+    template <class Type>
+    void Add(std::string_view under, std::string_view name, std::string_view text, std::string_view shortcut);
+};
+
+/// Ends the menu bar, after the last window; the process is about to end.
+void EndMenu();
