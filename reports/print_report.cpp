@@ -1,0 +1,74 @@
+#include "frame/conversions.h"
+#include "frame/file_notices.h"
+#include "frame/mainscreen.h"
+#include "platform/message_box.h"
+#include "platform/printing.h"
+
+#include <algorithm>
+#include <string>
+
+// The report: a heading, a summary and one line for each entry, in blocks of forty rows, two blocks to a
+// page. Places are in units of 1/72 inch from the top left corner of the paper.
+
+namespace {
+
+constexpr Integer kRowsInBlock = 40;
+constexpr Integer kMostEntries = 160;
+constexpr double kLeftBlock = 50.0;
+constexpr double kRightBlock = 300.0;
+constexpr double kHeadingLine = 50.0;
+constexpr double kSummaryLine = 80.0;
+constexpr double kAboveRows = 100.0;
+constexpr double kRowDistance = 15.0;
+
+void Draw(Graphics &page, std::string const &text, double x, double y) {
+    page.DrawString(text, x, y, 0.0, false);
+}
+
+std::string StudentLine(class mainscreen &window, Integer row) {
+    Integer const number = ToInteger(CDbl(window.ListBox1().Cell(row, 0)));
+    return "Student  " + Str(number) + std::string(8, ' ') + window.ListBox4().List(row) +
+           std::string(12, ' ') + window.ListBox1().Cell(row, 1) + " %";
+}
+
+/// Draws the rows from this one on, as many as there are but no more than a block holds.
+void DrawBlock(Graphics &page, class mainscreen &window, Integer first, Integer entrycount, double x) {
+    double y = kAboveRows;
+    for (Integer row = first; row < std::min(entrycount, first + kRowsInBlock); ++row) {
+        y += kRowDistance;
+        Draw(page, StudentLine(window, row), x, y);
+    }
+}
+
+} // namespace
+
+bool mainscreen::_FilePrint_Action() {
+    Integer const entrycount = ToInteger(CDbl(numstudents().Text()));
+    if (entrycount <= 0) {
+        MsgBox("There is currently no data to send to the printer.");
+        return false;
+    }
+    std::unique_ptr<Graphics> const page = OpenPrinterDialog();
+    if (page == nullptr) {
+        return false;
+    }
+    page->Failed = TellUnprinted;
+    if (entrycount > kMostEntries) {
+        MsgBox("Gradeloom will only print the first 160 entries. If you need to print more scores than 160, "
+               "please "
+               "contact the author at " GRADELOOM_CONTACT);
+    }
+    Draw(*page, "Results from Gradeloom", kLeftBlock, kHeadingLine);
+    Draw(*page,
+         "Number of Students : " + numstudents().Text() + std::string(7, ' ') +
+             "Class Average :  " + EditField1().Text() + " %",
+         kLeftBlock, kSummaryLine);
+    DrawBlock(*page, *this, 0, entrycount, kLeftBlock);
+    DrawBlock(*page, *this, kRowsInBlock, entrycount, kRightBlock);
+    if (entrycount > 2 * kRowsInBlock) {
+        page->NextPage();
+        DrawBlock(*page, *this, 2 * kRowsInBlock, entrycount, kLeftBlock);
+        DrawBlock(*page, *this, 3 * kRowsInBlock, entrycount, kRightBlock);
+    }
+    return false;
+}
