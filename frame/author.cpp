@@ -4,14 +4,16 @@
 #include "frame/menu.h"
 #include "platform/browser.h"
 
-class Author &Author() {
-    if (Window *const open = _GetImplicitWindow("Author")) {
-        return static_cast<class Author &>(*open);
+class Author& Author()
+{
+    if (Window* const open = _GetImplicitWindow("Author")) {
+        return static_cast<class Author&>(*open);
     }
-    return static_cast<class Author &>(KeepWindow(std::unique_ptr<Window>(new class Author)));
+    return static_cast<class Author&>(KeepWindow(std::unique_ptr<Window>(new class Author)));
 }
 
-Author::Author() : Window("Author") {
+Author::Author() : Window("Author")
+{
     Build({.layout = [this] { Layout(); },
            .createControls = [this] { CreateControls(); },
            .addMenuHandlers = [this] { AddMenuHandlers(); },
@@ -19,21 +21,24 @@ Author::Author() : Window("Author") {
            .enableMenuItems = [this] { Event_EnableMenuItems(); }});
 }
 
-void Author::Layout() {
+void Author::Layout()
+{
     MenuBar(::Menu());
     _SetProperties(*this, {.title = "About Gradeloom", .width = 229, .height = 178, .hasCloseButton = true});
 }
 
-void Author::CreateControls() {
+void Author::CreateControls()
+{
     _CreateControls0();
     StaticText1().Multiline();
     PushButton1().Default(true);
-    PushButton1().MouseDown = [this](PushButton &sender, int x, int y) {
+    PushButton1().MouseDown = [this](PushButton& sender, int x, int y) {
         return PushButton1_MouseDown(sender, x, y);
     };
 }
 
-void Author::_CreateControls0() {
+void Author::_CreateControls0()
+{
 #define CONTROL(tab, type, name, caption, left, top, width, height, style)                                   \
     _SetProperties(Add<type>(#name),                                                                         \
                    RowProperties(form_style::style, caption, left, top, width, height, tab));
@@ -42,35 +47,41 @@ void Author::_CreateControls0() {
 }
 
 #define CONTROL(tab, type, name, caption, left, top, width, height, style)                                   \
-    type &Author::name() {                                                                                   \
+    type& Author::name()                                                                                     \
+    {                                                                                                        \
         return Get<type>(#name);                                                                             \
     }
 #include "frame/author.def"
 #undef CONTROL
 
-bool Author::PushButton1_MouseDown(PushButton & /*sender*/, int /*x*/, int /*y*/) {
+bool Author::PushButton1_MouseDown(PushButton& /*sender*/, int /*x*/, int /*y*/)
+{
     ShowURL(GRADELOOM_WEB_PAGE);
     return false;
 }
 
 #define MENU_SECTION -1
 #define ITEM(under, name, type, text, shortcut)                                                              \
-    MenuItem &Author::name() {                                                                               \
+    MenuItem& Author::name()                                                                                 \
+    {                                                                                                        \
         return MenuBar().Item(#name);                                                                        \
     }
 #include "frame/menu.def"
 #undef ITEM
 #undef MENU_SECTION
 
-void Author::AddMenuHandlers() {
+void Author::AddMenuHandlers()
+{
     _AddMenuHandler(*this, "FileClose", [this] { return _FileClose_Action(); });
 }
 
-void Author::Event_EnableMenuItems() {
+void Author::Event_EnableMenuItems()
+{
     FileClose().Enabled(true);
 }
 
-bool Author::_FileClose_Action() {
+bool Author::_FileClose_Action()
+{
     Close();
     return false;
 }

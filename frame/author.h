@@ -12,14 +12,14 @@ public:
     virtual void CreateControls();
     virtual void _CreateControls0();
 
-#define CONTROL(tab, type, name, caption, left, top, width, height, style) virtual type &name();
+#define CONTROL(tab, type, name, caption, left, top, width, height, style) virtual type& name();
 #include "frame/author.def"
 #undef CONTROL
 
-    virtual bool PushButton1_MouseDown(PushButton &sender, int x, int y);
+    virtual bool PushButton1_MouseDown(PushButton& sender, int x, int y);
 
 #define MENU_SECTION -1
-#define ITEM(under, name, type, text, shortcut) virtual MenuItem &name();
+#define ITEM(under, name, type, text, shortcut) virtual MenuItem& name();
 #include "frame/menu.def"
 #undef ITEM
 #undef MENU_SECTION
@@ -29,7 +29,7 @@ public:
     virtual bool _FileClose_Action();
 
 private:
-    friend class Author & ::Author();
+    friend class Author& ::Author();
 
     Author();
 };

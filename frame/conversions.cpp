@@ -24,7 +24,8 @@ struct Decimal {
 };
 
 /// The number at so many significant digits, correctly rounded, exact ties to even.
-Decimal Significant(Double number, int count) {
+Decimal Significant(Double number, int count)
+{
     std::ostringstream stream;
     stream.imbue(std::locale::classic());
     stream << std::scientific << std::setprecision(count - 1) << std::fabs(number);
@@ -36,7 +37,8 @@ Decimal Significant(Double number, int count) {
 }
 
 /// The decimal laid out plainly, with the decimals past the limit cut and no zeros at the end.
-std::string Plain(Decimal const &decimal, std::size_t mostDecimals) {
+std::string Plain(Decimal const& decimal, std::size_t mostDecimals)
+{
     std::string whole = "0";
     std::string fraction;
     if (decimal.exponent < 0) {
@@ -55,11 +57,13 @@ std::string Plain(Decimal const &decimal, std::size_t mostDecimals) {
 }
 
 /// A value that needs no decimals: whole, infinite or no number.
-bool IsPlainValue(Double number) {
+bool IsPlainValue(Double number)
+{
     return !std::isfinite(number) || std::trunc(number) == number;
 }
 
-std::string PlainValue(Double number) {
+std::string PlainValue(Double number)
+{
     if (std::isnan(number)) {
         return "NaN";
     }
@@ -70,11 +74,13 @@ std::string PlainValue(Double number) {
     return stream.str();
 }
 
-bool IsDigit(char character) {
+bool IsDigit(char character)
+{
     return character >= '0' && character <= '9';
 }
 
-std::size_t DigitsAt(std::string_view text, std::size_t start) {
+std::size_t DigitsAt(std::string_view text, std::size_t start)
+{
     std::size_t end = start;
     while (end < text.size() && IsDigit(text[end])) {
         ++end;
@@ -83,7 +89,8 @@ std::size_t DigitsAt(std::string_view text, std::size_t start) {
 }
 
 /// The whole digits of a number, without the commas between their groups of three.
-std::string TakeWhole(std::string_view &text) {
+std::string TakeWhole(std::string_view& text)
+{
     constexpr std::size_t kGroup = 3;
     std::size_t const first = DigitsAt(text, 0);
     std::string digits(text.substr(0, first));
@@ -97,7 +104,8 @@ std::string TakeWhole(std::string_view &text) {
 }
 
 /// The digits behind the decimal point. After groups of thousands a comma is no decimal comma.
-std::string TakeFraction(std::string_view &text, bool grouped) {
+std::string TakeFraction(std::string_view& text, bool grouped)
+{
     bool const isPoint = !text.empty() && text[0] == '.';
     bool const isComma = !text.empty() && text[0] == ',' && !grouped && DigitsAt(text, 1) > 0;
     if (!isPoint && !isComma) {
@@ -110,7 +118,8 @@ std::string TakeFraction(std::string_view &text, bool grouped) {
 }
 
 /// The exponent that follows directly, 0 if there is none; a huge one is cut to what decides all the same.
-int TakeExponent(std::string_view text) {
+int TakeExponent(std::string_view text)
+{
     constexpr int kDecides = 1'000'000'000;
     if (text.empty() || (text[0] != 'e' && text[0] != 'E')) {
         return 0;
@@ -128,7 +137,8 @@ int TakeExponent(std::string_view text) {
 }
 
 /// The value of 0.digits times a power of ten; digits start with another one than 0.
-Double ValueOf(std::string const &digits, std::int64_t exponent) {
+Double ValueOf(std::string const& digits, std::int64_t exponent)
+{
     constexpr int kTooLarge = 310; // 1e309 is past the largest finite number
     constexpr int kTooSmall = -330;
     if (exponent > kTooLarge) {
@@ -144,7 +154,8 @@ Double ValueOf(std::string const &digits, std::int64_t exponent) {
     return std::min(value, kLargest);
 }
 
-Double Read(std::string_view text, bool withExponent) {
+Double Read(std::string_view text, bool withExponent)
+{
     text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
     bool const hasSign = !text.empty() && (text[0] == '+' || text[0] == '-');
     bool const isNegative = hasSign && text[0] == '-';
@@ -167,15 +178,18 @@ Double Read(std::string_view text, bool withExponent) {
 
 } // namespace
 
-Double Val(std::string_view text) {
+Double Val(std::string_view text)
+{
     return Read(text, false);
 }
 
-Double CDbl(std::string_view text) {
+Double CDbl(std::string_view text)
+{
     return Read(text, true);
 }
 
-std::string Str(Double number) {
+std::string Str(Double number)
+{
     if (IsPlainValue(number)) {
         return PlainValue(number);
     }
@@ -184,11 +198,13 @@ std::string Str(Double number) {
     return Plain(decimal, std::string::npos);
 }
 
-std::string Str(Integer number) {
+std::string Str(Integer number)
+{
     return std::to_string(number);
 }
 
-std::string Format(Double number, std::string_view pattern) {
+std::string Format(Double number, std::string_view pattern)
+{
     if (IsPlainValue(number)) {
         return PlainValue(number);
     }
@@ -196,11 +212,13 @@ std::string Format(Double number, std::string_view pattern) {
     return Plain(Significant(number, kFormatDigits), decimals);
 }
 
-Double Round(Double number) {
+Double Round(Double number)
+{
     return std::round(number);
 }
 
-Integer ToInteger(Double number) {
+Integer ToInteger(Double number)
+{
     constexpr Integer kLow = std::numeric_limits<Integer>::min();
     constexpr Integer kHigh = std::numeric_limits<Integer>::max();
     if (std::isnan(number)) {
@@ -213,7 +231,8 @@ Integer ToInteger(Double number) {
     return number >= static_cast<Double>(kHigh) ? kHigh : static_cast<Integer>(number);
 }
 
-Integer Sum(Integer one, Integer other) {
+Integer Sum(Integer one, Integer other)
+{
     constexpr Integer kLow = std::numeric_limits<Integer>::min();
     constexpr Integer kHigh = std::numeric_limits<Integer>::max();
     if (other > 0) {

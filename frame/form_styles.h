@@ -25,7 +25,8 @@ inline constexpr ControlProperties hiddenOff = {.visible = false, .enabled = fal
 
 /// The properties of one row: the style's, with the row's own caption, place and tab number.
 constexpr ControlProperties RowProperties(ControlProperties style, std::string_view caption, int left,
-                                          int top, int width, int height, int tab) {
+                                          int top, int width, int height, int tab)
+{
     style.caption = caption;
     style.accessibleName = caption;
     style.left = left;

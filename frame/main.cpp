@@ -1,7 +1,8 @@
 #include "frame/startup.h"
 #include "platform/runtime.h"
 
-int main() {
+int main()
+{
     RuntimeInit();
     RuntimePerformInitializers();
     _Main();

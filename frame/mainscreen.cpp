@@ -14,19 +14,22 @@ constexpr int kMostCharactersOfAMaximum = 3;
 
 } // namespace
 
-class mainscreen &mainscreen() {
-    if (Window *const open = _GetImplicitWindow("mainscreen")) {
-        return static_cast<class mainscreen &>(*open);
+class mainscreen& mainscreen()
+{
+    if (Window* const open = _GetImplicitWindow("mainscreen")) {
+        return static_cast<class mainscreen&>(*open);
     }
-    return static_cast<class mainscreen &>(KeepWindow(std::unique_ptr<Window>(new class mainscreen)));
+    return static_cast<class mainscreen&>(KeepWindow(std::unique_ptr<Window>(new class mainscreen)));
 }
 
-mainscreen::mainscreen() : Window("mainscreen") {
+mainscreen::mainscreen() : Window("mainscreen")
+{
     Build({[this] { Layout(); }, [this] { CreateControls(); }, [this] { AddMenuHandlers(); },
            [this] { Event_Open(); }, [this] { Event_EnableMenuItems(); }});
 }
 
-void mainscreen::Layout() {
+void mainscreen::Layout()
+{
     MenuBar(::Menu());
     _SetProperties(*this, {
                               .title = "Gradeloom X",
@@ -37,7 +40,8 @@ void mainscreen::Layout() {
     });
 }
 
-void mainscreen::CreateControls() {
+void mainscreen::CreateControls()
+{
     _CreateControls0();
     _CreateControls1();
     _CreateControls2();
@@ -54,7 +58,7 @@ void mainscreen::CreateControls() {
     PushButton4().Tooltip("\"Save Current Settings\" will cause the current grading scale to open the next "
                           "time the program is launched.");
 
-    total().TextChange = [this](TextField &sender) { total_TextChange(sender); };
+    total().TextChange = [this](TextField& sender) { total_TextChange(sender); };
     PushButton1().Action = [this] { PushButton1_Action(); };
     PushButton2().Action = [this] { PushButton2_Action(); };
     PushButton3().Action = [this] { PushButton3_Action(); };
@@ -63,9 +67,9 @@ void mainscreen::CreateControls() {
 
     // amin().KeyDown calls amin_KeyDown, and so on for each scale field.
 #define FIELD(field, text, check)                                                                            \
-    field().KeyDown = [this](TextField &sender, auto const &key) { return field##_KeyDown(sender, key); };   \
-    field().GotFocus = [this](TextField &sender) { field##_GotFocus(sender); };                              \
-    field().TextChange = [this](TextField &sender) { field##_TextChange(sender); };
+    field().KeyDown = [this](TextField& sender, auto const& key) { return field##_KeyDown(sender, key); };   \
+    field().GotFocus = [this](TextField& sender) { field##_GotFocus(sender); };                              \
+    field().TextChange = [this](TextField& sender) { field##_TextChange(sender); };
 #include "scale/scale_fields.def"
 #undef FIELD
 }
@@ -73,21 +77,26 @@ void mainscreen::CreateControls() {
 // The accessors: TextField& mainscreen::total() and so on.
 #define FORM_SECTION -1
 #define CONTROL(tab, type, name, caption, left, top, width, height, style)                                   \
-    type &mainscreen::name() {                                                                               \
+    type& mainscreen::name()                                                                                 \
+    {                                                                                                        \
         return Get<type>(#name);                                                                             \
     }
 #define CHILD CONTROL
 #define BAND(tab, maximum, l1, t1, w1, h1, minimum, l2, t2, w2, h2, label, caption, l3, t3, to, l4, t4)      \
-    TextField &mainscreen::maximum() {                                                                       \
+    TextField& mainscreen::maximum()                                                                         \
+    {                                                                                                        \
         return Get<TextField>(#maximum);                                                                     \
     }                                                                                                        \
-    TextField &mainscreen::minimum() {                                                                       \
+    TextField& mainscreen::minimum()                                                                         \
+    {                                                                                                        \
         return Get<TextField>(#minimum);                                                                     \
     }                                                                                                        \
-    Label &mainscreen::label() {                                                                             \
+    Label& mainscreen::label()                                                                               \
+    {                                                                                                        \
         return Get<Label>(#label);                                                                           \
     }                                                                                                        \
-    Label &mainscreen::to() {                                                                                \
+    Label& mainscreen::to()                                                                                  \
+    {                                                                                                        \
         return Get<Label>(#to);                                                                              \
     }
 #include "frame/mainscreen.def"
@@ -110,25 +119,29 @@ void mainscreen::CreateControls() {
     CONTROL(tab + 2, Label, label, caption, l3, t3, kBandLabelWidth, kBandLabelHeight, plain)                \
     CONTROL(tab + 3, Label, to, "to ", l4, t4, kWordLabelWidth, kWordLabelHeight, plain)
 
-void mainscreen::_CreateControls0() {
+void mainscreen::_CreateControls0()
+{
 #define FORM_SECTION 0
 #include "frame/mainscreen.def"
 #undef FORM_SECTION
 }
 
-void mainscreen::_CreateControls1() {
+void mainscreen::_CreateControls1()
+{
 #define FORM_SECTION 1
 #include "frame/mainscreen.def"
 #undef FORM_SECTION
 }
 
-void mainscreen::_CreateControls2() {
+void mainscreen::_CreateControls2()
+{
 #define FORM_SECTION 2
 #include "frame/mainscreen.def"
 #undef FORM_SECTION
 }
 
-void mainscreen::_CreateControls3() {
+void mainscreen::_CreateControls3()
+{
 #define FORM_SECTION 3
 #include "frame/mainscreen.def"
 #undef FORM_SECTION

@@ -33,13 +33,13 @@ public:
     // One accessor for each control: total(), missed(), correct() and so on, as frame/mainscreen.def has
     // them.
 #define FORM_SECTION -1
-#define CONTROL(tab, type, name, caption, left, top, width, height, style) virtual type &name();
+#define CONTROL(tab, type, name, caption, left, top, width, height, style) virtual type& name();
 #define CHILD CONTROL
 #define BAND(tab, maximum, l1, t1, w1, h1, minimum, l2, t2, w2, h2, label, caption, l3, t3, to, l4, t4)      \
-    virtual TextField &maximum();                                                                            \
-    virtual TextField &minimum();                                                                            \
-    virtual Label &label();                                                                                  \
-    virtual Label &to();
+    virtual TextField& maximum();                                                                            \
+    virtual TextField& minimum();                                                                            \
+    virtual Label& label();                                                                                  \
+    virtual Label& to();
 #include "frame/mainscreen.def"
 #undef BAND
 #undef CHILD
@@ -47,14 +47,14 @@ public:
 #undef FORM_SECTION
 
     // The events of the controls.
-    virtual void total_TextChange(TextField &sender); // session/reset.cpp
+    virtual void total_TextChange(TextField& sender); // session/reset.cpp
     virtual void PushButton1_Action();                // session/score_entry.cpp
 
     // Three handlers for each scale field: amin_KeyDown and so on, in scale/edit_guard.cpp.
 #define FIELD(field, text, check)                                                                            \
-    virtual bool field##_KeyDown(TextField &sender, std::string const &key);                                 \
-    virtual void field##_GotFocus(TextField &sender);                                                        \
-    virtual void field##_TextChange(TextField &sender);
+    virtual bool field##_KeyDown(TextField& sender, std::string const& key);                                 \
+    virtual void field##_GotFocus(TextField& sender);                                                        \
+    virtual void field##_TextChange(TextField& sender);
 #include "scale/scale_fields.def"
 #undef FIELD
 
@@ -65,7 +65,7 @@ public:
 
     // One accessor for each menu item: FileOpen(), EditUndo() and so on, as frame/menu.def has them.
 #define MENU_SECTION -1
-#define ITEM(under, name, type, text, shortcut) virtual MenuItem &name();
+#define ITEM(under, name, type, text, shortcut) virtual MenuItem& name();
 #include "frame/menu.def"
 #undef ITEM
 #undef MENU_SECTION
@@ -91,7 +91,7 @@ public:
     virtual void shouldreset();      // scale/edit_guard.cpp
 
 private:
-    friend class mainscreen & ::mainscreen();
+    friend class mainscreen& ::mainscreen();
 
     mainscreen();
 };

@@ -6,14 +6,16 @@
 // The accessors: MenuItem& mainscreen::FileOpen() and so on.
 #define MENU_SECTION -1
 #define ITEM(under, name, type, text, shortcut)                                                              \
-    MenuItem &mainscreen::name() {                                                                           \
+    MenuItem& mainscreen::name()                                                                             \
+    {                                                                                                        \
         return MenuBar().Item(#name);                                                                        \
     }
 #include "frame/menu.def"
 #undef ITEM
 #undef MENU_SECTION
 
-void mainscreen::AddMenuHandlers() {
+void mainscreen::AddMenuHandlers()
+{
     _AddMenuHandler(*this, "About", [this] { return _About_Action(); });
     _AddMenuHandler(*this, "FileClose", [this] { return _FileClose_Action(); });
     _AddMenuHandler(*this, "FileReset", [this] { return _FileReset_Action(); });
@@ -24,7 +26,8 @@ void mainscreen::AddMenuHandlers() {
     _AddMenuHandler(*this, "filepresent", [this] { return _filepresent_Action(); });
 }
 
-void mainscreen::Event_EnableMenuItems() {
+void mainscreen::Event_EnableMenuItems()
+{
     About().Enabled(true);
     FileReset().Enabled(true);
     EditUndo().Enabled(true);
@@ -34,17 +37,20 @@ void mainscreen::Event_EnableMenuItems() {
     filepresent().Enabled(true);
 }
 
-bool mainscreen::_About_Action() {
+bool mainscreen::_About_Action()
+{
     ::Author().Show();
     return false;
 }
 
-bool mainscreen::_FileClose_Action() {
+bool mainscreen::_FileClose_Action()
+{
     Close();
     return false;
 }
 
-bool mainscreen::_filepresent_Action() {
+bool mainscreen::_filepresent_Action()
+{
     ::Window1().Show();
     return false;
 }

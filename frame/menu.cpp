@@ -1,26 +1,13 @@
 #include "frame/menu.h"
 
-namespace {
-
-std::unique_ptr<class Menu> &TheMenu() {
-    static std::unique_ptr<class Menu> menu;
+class Menu& Menu()
+{
+    static class Menu& menu = static_cast<class Menu&>(KeepMenuBar(std::unique_ptr<MenuBar>(new class Menu)));
     return menu;
 }
 
-} // namespace
-
-class Menu &Menu() {
-    if (TheMenu() == nullptr) {
-        TheMenu().reset(new class Menu);
-    }
-    return *TheMenu();
-}
-
-void EndMenu() {
-    TheMenu().reset();
-}
-
-Menu::Menu() {
+Menu::Menu()
+{
     Menu::Untitled0();
     Menu::Untitled1();
     Menu::Untitled2();
@@ -29,7 +16,8 @@ Menu::Menu() {
 
 template <class Type>
 void Menu::Add(std::string_view under, std::string_view name, std::string_view text,
-               std::string_view shortcut) {
+               std::string_view shortcut)
+{
     auto item = std::make_unique<Type>(name, text, shortcut);
     if (under.empty()) {
         Append(std::move(item));
@@ -40,25 +28,29 @@ void Menu::Add(std::string_view under, std::string_view name, std::string_view t
 
 #define ITEM(under, name, type, text, shortcut) Add<type>(under, #name, text, shortcut);
 
-void Menu::Untitled0() {
+void Menu::Untitled0()
+{
 #define MENU_SECTION 0
 #include "frame/menu.def"
 #undef MENU_SECTION
 }
 
-void Menu::Untitled1() {
+void Menu::Untitled1()
+{
 #define MENU_SECTION 1
 #include "frame/menu.def"
 #undef MENU_SECTION
 }
 
-void Menu::Untitled2() {
+void Menu::Untitled2()
+{
 #define MENU_SECTION 2
 #include "frame/menu.def"
 #undef MENU_SECTION
 }
 
-void Menu::Untitled3() {
+void Menu::Untitled3()
+{
 #define MENU_SECTION 3
 #include "frame/menu.def"
 #undef MENU_SECTION

@@ -7,7 +7,7 @@
 /// the window in front. What the items do stands with the windows: see frame/mainscreen.h.
 class Menu final : public MenuBar {
 private:
-    friend class Menu & ::Menu();
+    friend class Menu& ::Menu();
 
     Menu();
     virtual void Untitled0();
@@ -18,6 +18,3 @@ private:
     template <class Type>
     void Add(std::string_view under, std::string_view name, std::string_view text, std::string_view shortcut);
 };
-
-/// Ends the menu bar, after the last window; the process is about to end.
-void EndMenu();

@@ -12,14 +12,16 @@ namespace {
 
 constexpr int kFinal = 3; // the stage of a released version
 
-void TellException(std::string_view reason) {
+void TellException(std::string_view reason)
+{
     MsgBox("Gradeloom could not finish this step: " + std::string(reason) +
            ". The data you have entered so far has been kept.");
 }
 
 } // namespace
 
-void _Main() {
+void _Main()
+{
     try {
         _InstallExceptionHelper(TellException);
         _EarlyStartup();
@@ -30,7 +32,8 @@ void _Main() {
     }
 }
 
-void _EarlyStartup() {
+void _EarlyStartup()
+{
     _RuntimeInitExternalClasses();
     _InitPluginEntrypoints();
     _InitFileTypes();
@@ -40,7 +43,8 @@ void _EarlyStartup() {
 
 void _InitFileTypes() {}
 
-void _NewAppInstance() {
+void _NewAppInstance()
+{
     auto app = std::make_unique<App>();
     app->MajorVersion = 1;
     app->MinorVersion = 2;
@@ -55,10 +59,12 @@ void _NewAppInstance() {
 
 void _ApplicationAddMenuHandlers() {}
 
-void _LateStartup() {
+void _LateStartup()
+{
     _MakeDefaultView();
 }
 
-void _MakeDefaultView() {
+void _MakeDefaultView()
+{
     ::mainscreen();
 }

@@ -13,10 +13,10 @@ class Author;
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wshadow" // an accessor has the name of its class on purpose
 #endif
-class Menu &Menu();
-class mainscreen &mainscreen();
-class Window1 &Window1();
-class Author &Author();
+class Menu& Menu();
+class mainscreen& mainscreen();
+class Window1& Window1();
+class Author& Author();
 #if defined(__GNUC__)
 #pragma GCC diagnostic pop
 #endif

@@ -22,4 +22,4 @@ public:
 void _RuntimeRegisterAppObject(std::unique_ptr<Application> application);
 
 /// The registered application object; null before there is one.
-Application *_RuntimeAppObject();
+Application* _RuntimeAppObject();

@@ -32,26 +32,26 @@ struct ControlProperties {
 class Control {
 public:
     virtual ~Control();
-    Control(Control const &) = delete;
-    Control &operator=(Control const &) = delete;
+    Control(Control const&) = delete;
+    Control& operator=(Control const&) = delete;
 
     /// The text that appears while the pointer rests on the control.
     void Tooltip(std::string_view text);
 
 protected:
     /// Takes the widget over.
-    Control(QWidget *widget, std::string const &name);
+    Control(QWidget* widget, std::string const& name);
 
-    [[nodiscard]] QWidget &Widget() const;
-    virtual void Apply(ControlProperties const &properties);
+    [[nodiscard]] QWidget& Widget() const;
+    virtual void Apply(ControlProperties const& properties);
 
 private:
     friend class Window;
-    friend void _SetProperties(Control &control, ControlProperties const &properties);
+    friend void _SetProperties(Control& control, ControlProperties const& properties);
 
     std::unique_ptr<QWidget> widget_;
     int tabIndex_ = 0;
 };
 
 /// Applies a stored set of properties to a control.
-void _SetProperties(Control &control, ControlProperties const &properties);
+void _SetProperties(Control& control, ControlProperties const& properties);

@@ -25,12 +25,12 @@ struct FileDialogRequest {
 /// The one way out for everything that waits for the user or leaves the process. They lead to the desktop
 /// from the start; a test puts its own answers in their place.
 struct Doors {
-    std::function<int(MessageBoxRequest const &)> messageBox;
-    std::function<void(std::string const &address)> browser;
+    std::function<int(MessageBoxRequest const&)> messageBox;
+    std::function<void(std::string const& address)> browser;
     /// The path of the chosen file, or nothing.
-    std::function<std::optional<std::string>(FileDialogRequest const &)> fileDialog;
+    std::function<std::optional<std::string>(FileDialogRequest const&)> fileDialog;
     /// Lets the user set the printer up; false if the user cancels.
-    std::function<bool(QPrinter &)> printDialog;
+    std::function<bool(QPrinter&)> printDialog;
 };
 
-Doors &PlatformDoors();
+Doors& PlatformDoors();

@@ -16,13 +16,13 @@ class TextInputStream {
 public:
     explicit TextInputStream(std::unique_ptr<QFile> file);
     ~TextInputStream();
-    TextInputStream(TextInputStream const &) = delete;
-    TextInputStream &operator=(TextInputStream const &) = delete;
+    TextInputStream(TextInputStream const&) = delete;
+    TextInputStream& operator=(TextInputStream const&) = delete;
 
     /// The next line without its end; an empty text past the end of the file and after a fault.
     std::string ReadLine();
     /// Why the file can't be read on: an error of the disk, or a line too long to be one of a text.
-    [[nodiscard]] std::string const &Fault() const { return fault_; }
+    [[nodiscard]] std::string const& Fault() const { return fault_; }
     void Close();
 
 private:
@@ -56,7 +56,7 @@ public:
     explicit FolderItem(std::string path, bool makesFolder = false);
 
     [[nodiscard]] std::string Name() const;
-    [[nodiscard]] std::string const &Path() const { return path_; }
+    [[nodiscard]] std::string const& Path() const { return path_; }
     [[nodiscard]] bool IsFolder() const;
     /// The item of that name in this folder; an alias counts as what it points to.
     [[nodiscard]] FolderItem Child(std::string_view name, bool followAlias) const;
@@ -64,7 +64,7 @@ public:
     /// Creates the file, or replaces the one that stands there.
     [[nodiscard]] TextOutputStream CreateTextFile() const;
     /// Opens a plain file; null and the fault where that can't be done.
-    [[nodiscard]] std::unique_ptr<TextInputStream> OpenAsTextFile(std::string &fault) const;
+    [[nodiscard]] std::unique_ptr<TextInputStream> OpenAsTextFile(std::string& fault) const;
 
 private:
     std::string path_;

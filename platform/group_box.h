@@ -5,8 +5,8 @@
 /// A frame with a caption, which other controls may have as their parent.
 class GroupBox final : public Control {
 public:
-    GroupBox(QWidget *parent, std::string const &name);
+    GroupBox(QWidget* parent, std::string const& name);
 
 private:
-    void Apply(ControlProperties const &properties) override;
+    void Apply(ControlProperties const& properties) override;
 };

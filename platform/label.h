@@ -5,11 +5,11 @@
 /// A fixed text on the form. A bold caption too wide for its place is condensed.
 class Label final : public Control {
 public:
-    Label(QWidget *parent, std::string const &name);
+    Label(QWidget* parent, std::string const& name);
 
     /// Lets the text run over several centred lines.
     void Multiline();
 
 private:
-    void Apply(ControlProperties const &properties) override;
+    void Apply(ControlProperties const& properties) override;
 };

@@ -8,7 +8,7 @@
 /// gives an empty text, a write outside it is passed over. Appending costs the same at any length.
 class Listbox final : public Control {
 public:
-    Listbox(QWidget *parent, std::string const &name);
+    Listbox(QWidget* parent, std::string const& name);
 
     /// How a cell's text is aligned.
     enum Alignment { Default = 0, Left = 1, Right = 3 };
@@ -34,5 +34,5 @@ public:
     void RowSelectionType(int type);
 
 private:
-    void Apply(ControlProperties const &properties) override;
+    void Apply(ControlProperties const& properties) override;
 };

@@ -18,8 +18,8 @@ public:
     /// "Cmd" in a shortcut stands for the platform's command key.
     MenuItem(std::string_view name, std::string_view text, std::string_view shortcut);
     virtual ~MenuItem();
-    MenuItem(MenuItem const &) = delete;
-    MenuItem &operator=(MenuItem const &) = delete;
+    MenuItem(MenuItem const&) = delete;
+    MenuItem& operator=(MenuItem const&) = delete;
 
     [[nodiscard]] std::string Name() const;
     [[nodiscard]] std::string Text() const;
@@ -33,17 +33,17 @@ public:
     /// Off hides the item whatever its caption.
     void Visible(bool visible);
 
-    MenuItem &Append(std::unique_ptr<MenuItem> child);
+    MenuItem& Append(std::unique_ptr<MenuItem> child);
 
 protected:
-    [[nodiscard]] QAction &Action() const { return *action_; }
+    [[nodiscard]] QAction& Action() const { return *action_; }
 
 private:
     friend class MenuBar;
 
-    void BuildMenu(MenuBar &bar);
-    void BringUpToDate(TopLevel const *front);
-    [[nodiscard]] MenuItem *Find(std::string_view name);
+    void BuildMenu(MenuBar& bar);
+    void BringUpToDate(TopLevel const* front);
+    [[nodiscard]] MenuItem* Find(std::string_view name);
 
     std::unique_ptr<QAction> action_;
     std::unique_ptr<QMenu> menu_; ///< what the item opens; none for a command
@@ -70,22 +70,25 @@ class MenuBar {
 public:
     MenuBar();
     virtual ~MenuBar();
-    MenuBar(MenuBar const &) = delete;
-    MenuBar &operator=(MenuBar const &) = delete;
+    MenuBar(MenuBar const&) = delete;
+    MenuBar& operator=(MenuBar const&) = delete;
 
     /// The item of that name at any level; there must be one.
-    [[nodiscard]] MenuItem &Item(std::string_view name) const;
-    MenuItem &Append(std::unique_ptr<MenuItem> item);
+    [[nodiscard]] MenuItem& Item(std::string_view name) const;
+    MenuItem& Append(std::unique_ptr<MenuItem> item);
 
 private:
     friend class MenuItem;
     friend class TopLevel;
     friend class Window;
 
-    void ShowIn(QMenuBar &bar);
+    void ShowIn(QMenuBar& bar);
     void Update();
-    static void Choose(MenuItem const &item);
+    static void Choose(MenuItem const& item);
 
     std::vector<std::unique_ptr<MenuItem>> items_;
     bool built_ = false;
 };
+
+/// Gives a menu bar to the toolkit, which keeps it until the process ends.
+MenuBar& KeepMenuBar(std::unique_ptr<MenuBar> bar);

@@ -13,12 +13,12 @@ class Graphics {
 public:
     explicit Graphics(std::unique_ptr<PrintJob> job);
     ~Graphics();
-    Graphics(Graphics const &) = delete;
-    Graphics &operator=(Graphics const &) = delete;
+    Graphics(Graphics const&) = delete;
+    Graphics& operator=(Graphics const&) = delete;
 
     /// The job could not be carried out: the file that it was to go to, if any, and the reason. Comes at most
     /// once, at the release.
-    std::function<void(std::string const &fileName, std::string const &reason)> Failed;
+    std::function<void(std::string const& fileName, std::string const& reason)> Failed;
 
     /// Draws one line of text that starts at x on the base line y, in black, 12 units high. Width 0 is no
     /// wrapping, the only width there is.

@@ -11,12 +11,12 @@ void RuntimeInit();
 void RuntimePerformInitializers();
 
 /// Calls back once the toolkit is up.
-void _RunFrameworkInitialization(std::function<void()> const &lateStartup);
+void _RunFrameworkInitialization(std::function<void()> const& lateStartup);
 
 /// Runs the event loop until the user quits or the last window has closed.
 void _RuntimeRun();
 
-/// Ends the windows that are still open, then the application object and the toolkit.
+/// Ends the windows that are still open, then the menu bars, the application object and the toolkit.
 void RuntimePerformFinalizers();
 
 /// The exit status of the process: 0, or 1 after an exception that nothing caught.
@@ -27,7 +27,7 @@ int RuntimeExit();
 void _InstallExceptionHelper(std::function<void(std::string_view reason)> helper);
 
 /// Reports an exception that nothing caught on standard error and makes the exit status 1.
-void _UnhandledException(std::exception_ptr const &exception);
+void _UnhandledException(std::exception_ptr const& exception);
 
 /// The toolkit's place for extensions of the run-time; there are none.
 void _RuntimeInitExternalClasses();

@@ -10,8 +10,9 @@ constexpr Integer kFirstOfThirdPair = 71;
 
 /// Moves the rows of a chart list that belong to the next column pair there, by way of two hidden lists: the
 /// percentages, and a count of the points left that says how many rows move.
-void Split(Listbox &from, Listbox &to, Listbox &percentages, Listbox &pointsLeft, Integer firstRow,
-           Integer first, Integer points) {
+void Split(Listbox& from, Listbox& to, Listbox& percentages, Listbox& pointsLeft, Integer firstRow,
+           Integer first, Integer points)
+{
     for (Integer missed = first; missed <= points; ++missed) {
         to.ColumnCount(2);
         to.AddRow(from.Cell(firstRow + missed - first, 0));
@@ -31,8 +32,9 @@ void Split(Listbox &from, Listbox &to, Listbox &percentages, Listbox &pointsLeft
 
 } // namespace
 
-void Window1::PushButton1_Action() {
-    for (Listbox *const list :
+void Window1::PushButton1_Action()
+{
+    for (Listbox* const list :
          {&ListBox1(), &ListBox2(), &ListBox3(), &ListBox4(), &ListBox5(), &ListBox6(), &ListBox7()}) {
         list->DeleteAllRows();
     }

@@ -3,14 +3,16 @@
 #include "frame/form_styles.h"
 #include "frame/menu.h"
 
-class Window1 &Window1() {
-    if (Window *const open = _GetImplicitWindow("Window1")) {
-        return static_cast<class Window1 &>(*open);
+class Window1& Window1()
+{
+    if (Window* const open = _GetImplicitWindow("Window1")) {
+        return static_cast<class Window1&>(*open);
     }
-    return static_cast<class Window1 &>(KeepWindow(std::unique_ptr<Window>(new class Window1)));
+    return static_cast<class Window1&>(KeepWindow(std::unique_ptr<Window>(new class Window1)));
 }
 
-Window1::Window1() : Window("Window1") {
+Window1::Window1() : Window("Window1")
+{
     Build({.layout = [this] { Layout(); },
            .createControls = [this] { CreateControls(); },
            .addMenuHandlers = [this] { AddMenuHandlers(); },
@@ -18,7 +20,8 @@ Window1::Window1() : Window("Window1") {
            .enableMenuItems = [this] { Event_EnableMenuItems(); }});
 }
 
-void Window1::Layout() {
+void Window1::Layout()
+{
     MenuBar(::Menu());
     _SetProperties(*this, {
                               .title = "Presenter",
@@ -29,13 +32,15 @@ void Window1::Layout() {
     });
 }
 
-void Window1::CreateControls() {
+void Window1::CreateControls()
+{
     _CreateControls0();
     PushButton1().Default(true);
     PushButton1().Action = [this] { PushButton1_Action(); };
 }
 
-void Window1::_CreateControls0() {
+void Window1::_CreateControls0()
+{
 #define CONTROL(tab, type, name, caption, left, top, width, height, style)                                   \
     _SetProperties(Add<type>(#name),                                                                         \
                    RowProperties(form_style::style, caption, left, top, width, height, tab));
@@ -44,7 +49,8 @@ void Window1::_CreateControls0() {
 }
 
 #define CONTROL(tab, type, name, caption, left, top, width, height, style)                                   \
-    type &Window1::name() {                                                                                  \
+    type& Window1::name()                                                                                    \
+    {                                                                                                        \
         return Get<type>(#name);                                                                             \
     }
 #include "presenter/presenter.def"
@@ -52,22 +58,26 @@ void Window1::_CreateControls0() {
 
 #define MENU_SECTION -1
 #define ITEM(under, name, type, text, shortcut)                                                              \
-    MenuItem &Window1::name() {                                                                              \
+    MenuItem& Window1::name()                                                                                \
+    {                                                                                                        \
         return MenuBar().Item(#name);                                                                        \
     }
 #include "frame/menu.def"
 #undef ITEM
 #undef MENU_SECTION
 
-void Window1::AddMenuHandlers() {
+void Window1::AddMenuHandlers()
+{
     _AddMenuHandler(*this, "FileClose", [this] { return _FileClose_Action(); });
 }
 
-void Window1::Event_EnableMenuItems() {
+void Window1::Event_EnableMenuItems()
+{
     FileClose().Enabled(true);
 }
 
-bool Window1::_FileClose_Action() {
+bool Window1::_FileClose_Action()
+{
     Close();
     return false;
 }

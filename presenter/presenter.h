@@ -18,14 +18,14 @@ public:
     virtual void CreateControls();
     virtual void _CreateControls0();
 
-#define CONTROL(tab, type, name, caption, left, top, width, height, style) virtual type &name();
+#define CONTROL(tab, type, name, caption, left, top, width, height, style) virtual type& name();
 #include "presenter/presenter.def"
 #undef CONTROL
 
     virtual void PushButton1_Action(); // presenter/chart.cpp
 
 #define MENU_SECTION -1
-#define ITEM(under, name, type, text, shortcut) virtual MenuItem &name();
+#define ITEM(under, name, type, text, shortcut) virtual MenuItem& name();
 #include "frame/menu.def"
 #undef ITEM
 #undef MENU_SECTION
@@ -35,7 +35,7 @@ public:
     virtual bool _FileClose_Action();
 
 private:
-    friend class Window1 & ::Window1();
+    friend class Window1& ::Window1();
 
     Window1();
 };

@@ -6,7 +6,8 @@
 
 // The export writes the percentages of the entries, as the list shows them, one to a line.
 
-bool mainscreen::_FileExport_Action() {
+bool mainscreen::_FileExport_Action()
+{
     SaveAsDialog dialog;
     if (!(CDbl(numstudents().Text()) > 0.0)) {
         MsgBox("There is currently no data to export to disk.");

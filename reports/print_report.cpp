@@ -21,18 +21,21 @@ constexpr double kSummaryLine = 80.0;
 constexpr double kAboveRows = 100.0;
 constexpr double kRowDistance = 15.0;
 
-void Draw(Graphics &page, std::string const &text, double x, double y) {
+void Draw(Graphics& page, std::string const& text, double x, double y)
+{
     page.DrawString(text, x, y, 0.0, false);
 }
 
-std::string StudentLine(class mainscreen &window, Integer row) {
+std::string StudentLine(class mainscreen& window, Integer row)
+{
     Integer const number = ToInteger(CDbl(window.ListBox1().Cell(row, 0)));
     return "Student  " + Str(number) + std::string(8, ' ') + window.ListBox4().List(row) +
            std::string(12, ' ') + window.ListBox1().Cell(row, 1) + " %";
 }
 
 /// Draws the rows from this one on, as many as there are but no more than a block holds.
-void DrawBlock(Graphics &page, class mainscreen &window, Integer first, Integer entrycount, double x) {
+void DrawBlock(Graphics& page, class mainscreen& window, Integer first, Integer entrycount, double x)
+{
     double y = kAboveRows;
     for (Integer row = first; row < std::min(entrycount, first + kRowsInBlock); ++row) {
         y += kRowDistance;
@@ -42,7 +45,8 @@ void DrawBlock(Graphics &page, class mainscreen &window, Integer first, Integer 
 
 } // namespace
 
-bool mainscreen::_FilePrint_Action() {
+bool mainscreen::_FilePrint_Action()
+{
     Integer const entrycount = ToInteger(CDbl(numstudents().Text()));
     if (entrycount <= 0) {
         MsgBox("There is currently no data to send to the printer.");

@@ -11,7 +11,8 @@ std::array<ScaleField, kScaleFieldCount> const kScaleFields = {{
 #undef FIELD
 }};
 
-ScaleNumbers ReadScale(class mainscreen &window) {
+ScaleNumbers ReadScale(class mainscreen& window)
+{
     ScaleNumbers numbers{};
     for (std::size_t i = 0; i < kScaleFieldCount; ++i) {
         numbers[i] = Val((window.*kScaleFields[i].field)().Text());
@@ -19,19 +20,22 @@ ScaleNumbers ReadScale(class mainscreen &window) {
     return numbers;
 }
 
-void WriteDefaultScale(class mainscreen &window) {
-    for (ScaleField const &bound : kScaleFields) {
+void WriteDefaultScale(class mainscreen& window)
+{
+    for (ScaleField const& bound : kScaleFields) {
         (window.*bound.field)().Text(bound.defaultText);
     }
 }
 
-void ForceTopOfScale(class mainscreen &window) {
+void ForceTopOfScale(class mainscreen& window)
+{
     if (Val(window.aplusmax().Text()) != 100.0) {
         window.aplusmax().Text("100");
     }
 }
 
-void mainscreen::PushButton3_Action() {
+void mainscreen::PushButton3_Action()
+{
     if (ToInteger(CDbl(numstudents().Text())) != 0) {
         MsgBox(
             "Changing the grading scale to the Default cannot happen until you have reset the scores already "

@@ -10,17 +10,20 @@
 
 namespace {
 
-Integer EntryCount(class mainscreen &window) {
+Integer EntryCount(class mainscreen& window)
+{
     return ToInteger(CDbl(window.numstudents().Text()));
 }
 
-void StoreText(class mainscreen &window, TextField const &sender) {
+void StoreText(class mainscreen& window, TextField const& sender)
+{
     if (EntryCount(window) >= 1) {
         window.fileresetfield().Text(sender.Text());
     }
 }
 
-void RestoreText(class mainscreen &window, TextField &sender) {
+void RestoreText(class mainscreen& window, TextField& sender)
+{
     Integer const stored = ToInteger(CDbl(window.fileresetfield().Text()));
     if (EntryCount(window) >= 1 && stored > 0) {
         sender.Text(window.fileresetfield().Text());
@@ -29,7 +32,8 @@ void RestoreText(class mainscreen &window, TextField &sender) {
 }
 
 /// A boundary that is off comes out in whole numbers, with or without entries.
-void CheckBoundary(TextField &upper, TextField &lower, std::string const &above, std::string const &below) {
+void CheckBoundary(TextField& upper, TextField& lower, std::string const& above, std::string const& below)
+{
     Double const minimum = CDbl(upper.Text());
     Double const maximum = CDbl(lower.Text());
     if (minimum - maximum > 1.0 || 1.0 > minimum - maximum) {
@@ -42,7 +46,8 @@ void CheckBoundary(TextField &upper, TextField &lower, std::string const &above,
 
 } // namespace
 
-void mainscreen::shouldreset() {
+void mainscreen::shouldreset()
+{
     if (EntryCount(*this) < 1) {
         return;
     }
@@ -60,14 +65,17 @@ void mainscreen::shouldreset() {
 #define NO_CHECK
 #define BOUNDARY(upper, lower, above, below) CheckBoundary(upper(), lower(), above, below);
 #define FIELD(field, text, check)                                                                            \
-    bool mainscreen::field##_KeyDown(TextField & /*sender*/, std::string const & /*key*/) {                  \
+    bool mainscreen::field##_KeyDown(TextField& /*sender*/, std::string const& /*key*/)                      \
+    {                                                                                                        \
         shouldreset();                                                                                       \
         return false;                                                                                        \
     }                                                                                                        \
-    void mainscreen::field##_GotFocus(TextField &sender) {                                                   \
+    void mainscreen::field##_GotFocus(TextField& sender)                                                     \
+    {                                                                                                        \
         check StoreText(*this, sender);                                                                      \
     }                                                                                                        \
-    void mainscreen::field##_TextChange(TextField &sender) {                                                 \
+    void mainscreen::field##_TextChange(TextField& sender)                                                   \
+    {                                                                                                        \
         RestoreText(*this, sender);                                                                          \
     }
 #include "scale/scale_fields.def"

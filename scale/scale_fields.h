@@ -11,7 +11,7 @@ inline constexpr std::size_t kScaleFieldCount = 24;
 
 /// One bound of the scale: the field that holds it and its text in the default scale.
 struct ScaleField {
-    TextField &(mainscreen::*field)();
+    TextField& (mainscreen::*field)();
     std::string_view defaultText;
 };
 
@@ -21,10 +21,10 @@ extern std::array<ScaleField, kScaleFieldCount> const kScaleFields;
 
 /// The number that a bound's text stands for, read with Val.
 using ScaleNumbers = std::array<double, kScaleFieldCount>;
-[[nodiscard]] ScaleNumbers ReadScale(class mainscreen &window);
+[[nodiscard]] ScaleNumbers ReadScale(class mainscreen& window);
 
 /// Writes the default text into each of the 24 fields.
-void WriteDefaultScale(class mainscreen &window);
+void WriteDefaultScale(class mainscreen& window);
 
 /// Sets aplusmax to 100, without a word, if it reads as anything else.
-void ForceTopOfScale(class mainscreen &window);
+void ForceTopOfScale(class mainscreen& window);

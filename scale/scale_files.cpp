@@ -14,18 +14,19 @@
 
 namespace {
 
-constexpr char const *kPreferences = "Preferences";
+constexpr char const* kPreferences = "Preferences";
 
 /// Reads the 24 lines of a scale file, and only then sets the fields. Gives the fault; after one no field is
 /// set.
-std::string ReadScaleFile(class mainscreen &window, FolderItem const &item) {
+std::string ReadScaleFile(class mainscreen& window, FolderItem const& item)
+{
     std::string fault;
     std::unique_ptr<TextInputStream> const stream = item.OpenAsTextFile(fault);
     if (stream == nullptr) {
         return fault;
     }
     std::array<std::string, kScaleFieldCount> lines;
-    for (std::string &line : lines) {
+    for (std::string& line : lines) {
         line = stream->ReadLine();
     }
     stream->Close();
@@ -38,9 +39,10 @@ std::string ReadScaleFile(class mainscreen &window, FolderItem const &item) {
     return "";
 }
 
-void WriteScaleFile(class mainscreen &window, FolderItem const &item) {
+void WriteScaleFile(class mainscreen& window, FolderItem const& item)
+{
     TextOutputStream stream = item.CreateTextFile();
-    for (ScaleField const &bound : kScaleFields) {
+    for (ScaleField const& bound : kScaleFields) {
         stream.WriteLine((window.*bound.field)().Text());
     }
     TellUnlessSaved(item, stream.Close());
@@ -48,7 +50,8 @@ void WriteScaleFile(class mainscreen &window, FolderItem const &item) {
 
 /// What both save buttons do first: they repair the scale and round its lowest minimum, also when the save is
 /// then refused. True if the scale may be saved.
-bool PassesGate(class mainscreen &window) {
+bool PassesGate(class mainscreen& window)
+{
     window.gradingscaletest();
     bool const wasRepaired = ToInteger(CDbl(window.foundaproblem().Text())) == 1;
     Double const lowest = Round(CDbl(window.dminusmin().Text()));
@@ -63,19 +66,22 @@ bool PassesGate(class mainscreen &window) {
 
 } // namespace
 
-void mainscreen::getprefs() {
+void mainscreen::getprefs()
+{
     if (std::optional<FolderItem> const preferences = GetFolderItem(kPreferences, 0)) {
         static_cast<void>(ReadScaleFile(*this, *preferences)); // without the file the scale stays as it is
     }
 }
 
-void mainscreen::Event_Open() {
+void mainscreen::Event_Open()
+{
     getprefs();
     ForceTopOfScale(*this);
     gradingscaletest();
 }
 
-void mainscreen::PushButton4_Action() {
+void mainscreen::PushButton4_Action()
+{
     if (PassesGate(*this)) {
         if (std::optional<FolderItem> const preferences = GetFolderItem(kPreferences, 0)) {
             WriteScaleFile(*this, *preferences);
@@ -86,7 +92,8 @@ void mainscreen::PushButton4_Action() {
     foundaproblem().Text("");
 }
 
-void mainscreen::PushButton2_Action() {
+void mainscreen::PushButton2_Action()
+{
     if (PassesGate(*this)) {
         SaveAsDialog dialog;
         dialog.InitialDirectory = Volume(0).Child("Documents", true);
@@ -100,7 +107,8 @@ void mainscreen::PushButton2_Action() {
     foundaproblem().Text("");
 }
 
-bool mainscreen::_FileOpen_Action() {
+bool mainscreen::_FileOpen_Action()
+{
     if (ToInteger(CDbl(numstudents().Text())) != 0) {
         MsgBox("In order to change the current grading scale, you must first reset the data that has already "
                "been "

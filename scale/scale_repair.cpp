@@ -12,7 +12,8 @@ constexpr Double kHighestMinimumBelowTop = 99.0;
 
 /// Carries out the 24 tests in the order of the fields. A maximum follows the minimum above it; a minimum
 /// above its own maximum goes to one below it. Gives whether anything was repaired.
-bool Repair(class mainscreen &window, ScaleNumbers &numbers) {
+bool Repair(class mainscreen& window, ScaleNumbers& numbers)
+{
     bool repaired = false;
     auto const set = [&](std::size_t i, Double number) {
         numbers[i] = number;
@@ -39,7 +40,8 @@ bool Repair(class mainscreen &window, ScaleNumbers &numbers) {
 
 } // namespace
 
-void mainscreen::gradingscaletest() {
+void mainscreen::gradingscaletest()
+{
     ScaleNumbers numbers = ReadScale(*this);
     bool const repaired = Repair(*this, numbers);
     if (repaired) {

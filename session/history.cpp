@@ -11,9 +11,10 @@ constexpr std::array kHistory = {&mainscreen::ListBox1, &mainscreen::ListBox2, &
 
 } // namespace
 
-void AppendEntry(class mainscreen &window, Integer entrycount, Double percent, Double nummissed,
-                 Integer classaverage) {
-    Listbox &list = window.ListBox1();
+void AppendEntry(class mainscreen& window, Integer entrycount, Double percent, Double nummissed,
+                 Integer classaverage)
+{
+    Listbox& list = window.ListBox1();
     Integer const row = entrycount - 1;
     list.AddRow(Str(entrycount));
     list.ColumnCount(3);
@@ -31,13 +32,15 @@ void AppendEntry(class mainscreen &window, Integer entrycount, Double percent, D
     window.ListBox5().AddRow(Str(runningsum));
 }
 
-void RemoveEntry(class mainscreen &window, Integer row) {
+void RemoveEntry(class mainscreen& window, Integer row)
+{
     for (auto const list : kHistory) {
         (window.*list)().RemoveRow(row);
     }
 }
 
-void DeleteHistory(class mainscreen &window) {
+void DeleteHistory(class mainscreen& window)
+{
     for (auto const list : kHistory) {
         (window.*list)().DeleteAllRows();
     }

@@ -9,11 +9,11 @@
 
 /// Appends the record of the entry whose results stand in the fields. The number of entries counts it
 /// already.
-void AppendEntry(class mainscreen &window, Integer entrycount, Double percent, Double nummissed,
+void AppendEntry(class mainscreen& window, Integer entrycount, Double percent, Double nummissed,
                  Integer classaverage);
 
 /// Removes one row, counted from 0, of all five lists.
-void RemoveEntry(class mainscreen &window, Integer row);
+void RemoveEntry(class mainscreen& window, Integer row);
 
 /// Empties all five lists.
-void DeleteHistory(class mainscreen &window);
+void DeleteHistory(class mainscreen& window);

@@ -23,15 +23,17 @@ std::array<Letter, 13> const kLetters = {
      }
 };
 
-TextField *BucketOf(class mainscreen &window, std::string_view letter) {
-    auto const *const found = std::find_if(kLetters.begin(), kLetters.end(),
-                                           [&](Letter const &known) { return known.text == letter; });
+TextField* BucketOf(class mainscreen& window, std::string_view letter)
+{
+    auto const* const found = std::find_if(kLetters.begin(), kLetters.end(),
+                                           [&](Letter const& known) { return known.text == letter; });
     return found == kLetters.end() ? nullptr : &(window.*found->bucket)();
 }
 
 /// The first test that holds gives the letter. A percentage in a gap between two bands keeps the letter of
 /// the entry before it.
-void mainscreen::percenttest() {
+void mainscreen::percenttest()
+{
     Double const read = CDbl(percentage().Text());
     ScaleNumbers const bounds = ReadScale(*this);
     Double const rounded = Round(read);
@@ -50,8 +52,9 @@ void mainscreen::percenttest() {
     }
 }
 
-void mainscreen::results() {
-    if (TextField *const bucket = BucketOf(*this, lettergrade().Text())) {
+void mainscreen::results()
+{
+    if (TextField* const bucket = BucketOf(*this, lettergrade().Text())) {
         bucket->Text(Str(Sum(ToInteger(Val(bucket->Text())), 1)));
     }
 }

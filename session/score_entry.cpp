@@ -17,16 +17,19 @@ struct Score {
     Double nummissed = 0.0;
 };
 
-void TellPositivePoints() {
+void TellPositivePoints()
+{
     MsgBox("You must enter a positive value for the Number of Points.");
 }
 
-bool HasPositivePoints(class mainscreen &window) {
+bool HasPositivePoints(class mainscreen& window)
+{
     return CDbl(window.total().Text()) > 0.0;
 }
 
 /// Refuses a number missed above the points, whichever mode it came from.
-bool IsTooManyMissed(class mainscreen &window, Integer pointstotal) {
+bool IsTooManyMissed(class mainscreen& window, Integer pointstotal)
+{
     if (Val(window.missed().Text()) > static_cast<Double>(pointstotal)) {
         MsgBox("The number missed should not exceed the total number of points.");
         window.missed().Text("");
@@ -35,12 +38,14 @@ bool IsTooManyMissed(class mainscreen &window, Integer pointstotal) {
     return false;
 }
 
-Double Percent(Score const &score, Integer pointstotal) {
+Double Percent(Score const& score, Integer pointstotal)
+{
     return score.numcorrect / static_cast<Double>(pointstotal) * 100.0;
 }
 
 /// Reads the number correct and shows the score. False if the score is refused.
-bool ReadCorrect(class mainscreen &window, Integer pointstotal, Score &score) {
+bool ReadCorrect(class mainscreen& window, Integer pointstotal, Score& score)
+{
     score.numcorrect = Val(window.correct().Text());
     score.nummissed = static_cast<Double>(pointstotal) - score.numcorrect;
     window.missed().Text(Str(score.nummissed));
@@ -54,7 +59,8 @@ bool ReadCorrect(class mainscreen &window, Integer pointstotal, Score &score) {
 }
 
 /// Reads the number missed and shows the score. False if the score is refused.
-bool ReadMissed(class mainscreen &window, Integer pointstotal, Score &score) {
+bool ReadMissed(class mainscreen& window, Integer pointstotal, Score& score)
+{
     if (IsTooManyMissed(window, pointstotal)) {
         return false;
     }
@@ -67,7 +73,8 @@ bool ReadMissed(class mainscreen &window, Integer pointstotal, Score &score) {
 }
 
 /// Makes the entry, or refuses the score.
-void MakeEntry(class mainscreen &window) {
+void MakeEntry(class mainscreen& window)
+{
     Integer runningsum = ToInteger(Val(window.average().Text()));
     Integer entrycount = ToInteger(Val(window.numstudents().Text()));
     Integer const pointstotal = ToInteger(Val(window.total().Text()));
@@ -97,7 +104,8 @@ void MakeEntry(class mainscreen &window) {
 }
 
 /// A bound above the one before it, as the numbers were read, is a violation; a gap is none.
-bool IsInOrder(ScaleNumbers const &numbers) {
+bool IsInOrder(ScaleNumbers const& numbers)
+{
     for (std::size_t i = 1; i < numbers.size(); ++i) {
         if (numbers[i] > numbers[i - 1]) {
             return false;
@@ -108,7 +116,8 @@ bool IsInOrder(ScaleNumbers const &numbers) {
 
 /// Offers to fix a scale that is out of order. After a Yes the scale is repaired before the points are
 /// tested.
-GradeState CheckScale(class mainscreen &window) {
+GradeState CheckScale(class mainscreen& window)
+{
     ScaleNumbers const numbers = ReadScale(window);
     ForceTopOfScale(window);
     if (IsInOrder(numbers)) {
@@ -132,7 +141,8 @@ GradeState CheckScale(class mainscreen &window) {
 
 } // namespace
 
-void mainscreen::PushButton1_Action() {
+void mainscreen::PushButton1_Action()
+{
     // These two stamps stay, also when the press is refused.
     pointstemp().Text(total().Text());
     bool const isFirst = ToInteger(CDbl(numstudents().Text())) < 1;

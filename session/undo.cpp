@@ -7,7 +7,8 @@
 namespace {
 
 /// Puts the fields back to the record of this row, which stays as the last one.
-void RestoreRecord(class mainscreen &window, Integer row) {
+void RestoreRecord(class mainscreen& window, Integer row)
+{
     window.numstudents().Text(Str(row + 1));
     window.average().Text(Str(CDbl(window.ListBox5().List(row))));
     window.percentage().Text(Str(CDbl(window.ListBox1().Cell(row, 1))));
@@ -17,8 +18,9 @@ void RestoreRecord(class mainscreen &window, Integer row) {
 }
 
 /// Takes the last entry back, of at least two.
-void StepBack(class mainscreen &window, Integer entrycount) {
-    if (TextField *const bucket = BucketOf(window, window.ListBox4().List(entrycount - 1))) {
+void StepBack(class mainscreen& window, Integer entrycount)
+{
+    if (TextField* const bucket = BucketOf(window, window.ListBox4().List(entrycount - 1))) {
         bucket->Text(Str(Sum(ToInteger(CDbl(bucket->Text())), -1)));
     }
     RestoreRecord(window, entrycount - 2);
@@ -29,7 +31,8 @@ void StepBack(class mainscreen &window, Integer entrycount) {
 
 /// The first entry has no record before it: it goes by clearing all, and problem says whether this is the
 /// time.
-bool mainscreen::_EditUndo_Action() {
+bool mainscreen::_EditUndo_Action()
+{
     Integer entrycount = ToInteger(CDbl(numstudents().Text()));
     if (entrycount > 1) {
         StepBack(*this, entrycount);

@@ -20,9 +20,10 @@ namespace {
 constexpr int kMostCondensed = 70; // per cent of the font's width; narrower can't be read
 
 /// Connects a button's press to what it does, as a command of its window.
-void ConnectAction(QAbstractButton &button, std::function<void()> const &action) {
+void ConnectAction(QAbstractButton& button, std::function<void()> const& action)
+{
     QObject::connect(&button, &QAbstractButton::clicked, &button, [&button, &action] {
-        if (auto *const top = dynamic_cast<TopLevel *>(button.window())) {
+        if (auto* const top = dynamic_cast<TopLevel*>(button.window())) {
             top->beginCommand();
         }
         if (action) {
@@ -33,7 +34,8 @@ void ConnectAction(QAbstractButton &button, std::function<void()> const &action)
 
 } // namespace
 
-QFont ControlFont(ControlProperties const &properties, int margins) {
+QFont ControlFont(ControlProperties const& properties, int margins)
+{
     QFont font = QApplication::font();
     if (properties.textSize > 0) {
         font.setPixelSize(properties.textSize);
@@ -51,7 +53,8 @@ QFont ControlFont(ControlProperties const &properties, int margins) {
     return font;
 }
 
-QPalette FormPalette(Color background) {
+QPalette FormPalette(Color background)
+{
     QColor const grey(128, 128, 128);
     QPalette palette(QColor(239, 239, 239), QColor(background.red, background.green, background.blue));
     for (QPalette::ColorRole const role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
@@ -68,29 +71,34 @@ QPalette FormPalette(Color background) {
     return palette;
 }
 
-QPalette FieldPalette(QPalette palette, Color background) {
+QPalette FieldPalette(QPalette palette, Color background)
+{
     palette.setColor(QPalette::Base, QColor(background.red, background.green, background.blue));
     return palette;
 }
 
-Control::Control(QWidget *widget, std::string const &name) : widget_(widget) {
+Control::Control(QWidget* widget, std::string const& name) : widget_(widget)
+{
     widget->setObjectName(ToQt(name));
 }
 
 Control::~Control() = default;
 
-QWidget &Control::Widget() const {
+QWidget& Control::Widget() const
+{
     return *widget_;
 }
 
-void Control::Tooltip(std::string_view text) {
+void Control::Tooltip(std::string_view text)
+{
     widget_->setToolTip(ToQt(text));
 }
 
-void Control::Apply(ControlProperties const &properties) {
+void Control::Apply(ControlProperties const& properties)
+{
     QPoint place(properties.left, properties.top);
-    for (QWidget *parent = widget_->parentWidget(); parent != nullptr; parent = parent->parentWidget()) {
-        if (qobject_cast<QGroupBox *>(parent) == nullptr) {
+    for (QWidget* parent = widget_->parentWidget(); parent != nullptr; parent = parent->parentWidget()) {
+        if (qobject_cast<QGroupBox*>(parent) == nullptr) {
             break;
         }
         place -= parent->pos();
@@ -102,81 +110,92 @@ void Control::Apply(ControlProperties const &properties) {
     tabIndex_ = properties.tabIndex;
 }
 
-void _SetProperties(Control &control, ControlProperties const &properties) {
+void _SetProperties(Control& control, ControlProperties const& properties)
+{
     control.Apply(properties);
 }
 
-Label::Label(QWidget *parent, std::string const &name) : Control(new QLabel(parent), name) {}
+Label::Label(QWidget* parent, std::string const& name) : Control(new QLabel(parent), name) {}
 
-void Label::Apply(ControlProperties const &properties) {
+void Label::Apply(ControlProperties const& properties)
+{
     Control::Apply(properties);
-    auto &label = static_cast<QLabel &>(Widget());
+    auto& label = static_cast<QLabel&>(Widget());
     label.setTextFormat(Qt::PlainText);
     label.setFont(ControlFont(properties, 0));
     label.setText(ToQt(properties.caption).replace(u'\r', u'\n'));
 }
 
-void Label::Multiline() {
-    static_cast<QLabel &>(Widget()).setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+void Label::Multiline()
+{
+    static_cast<QLabel&>(Widget()).setAlignment(Qt::AlignHCenter | Qt::AlignTop);
 }
 
-PushButton::PushButton(QWidget *parent, std::string const &name)
-    : Control(new PushButtonWidget(parent), name) {
-    auto &button = static_cast<PushButtonWidget &>(Widget());
+PushButton::PushButton(QWidget* parent, std::string const& name) : Control(new PushButtonWidget(parent), name)
+{
+    auto& button = static_cast<PushButtonWidget&>(Widget());
     ConnectAction(button, Action);
     button.mouseDown = [this](QPoint place) {
         return MouseDown && Guarded(MouseDown, *this, place.x(), place.y());
     };
 }
 
-void PushButton::Default(bool isDefault) {
-    auto &button = static_cast<PushButtonWidget &>(Widget());
+void PushButton::Default(bool isDefault)
+{
+    auto& button = static_cast<PushButtonWidget&>(Widget());
     button.setDefault(isDefault);
-    if (auto *const top = dynamic_cast<TopLevel *>(button.window())) {
+    if (auto* const top = dynamic_cast<TopLevel*>(button.window())) {
         top->defaultButton = isDefault ? &button : nullptr;
     }
 }
 
-void PushButton::Apply(ControlProperties const &properties) {
+void PushButton::Apply(ControlProperties const& properties)
+{
     Control::Apply(properties);
-    auto &button = static_cast<QPushButton &>(Widget());
+    auto& button = static_cast<QPushButton&>(Widget());
     button.setFont(ControlFont(properties, 8));
     button.setText(ToQt(properties.caption));
 }
 
-BevelButton::BevelButton(QWidget *parent, std::string const &name) : Control(new QPushButton(parent), name) {
-    auto &button = static_cast<QPushButton &>(Widget());
+BevelButton::BevelButton(QWidget* parent, std::string const& name) : Control(new QPushButton(parent), name)
+{
+    auto& button = static_cast<QPushButton&>(Widget());
     button.setFocusPolicy(Qt::NoFocus);
     ConnectAction(button, Action);
 }
 
-void BevelButton::Apply(ControlProperties const &properties) {
+void BevelButton::Apply(ControlProperties const& properties)
+{
     Control::Apply(properties);
-    auto &button = static_cast<QPushButton &>(Widget());
+    auto& button = static_cast<QPushButton&>(Widget());
     button.setFont(ControlFont(properties, 8));
     button.setText(ToQt(properties.caption));
 }
 
-CheckBox::CheckBox(QWidget *parent, std::string const &name) : Control(new QCheckBox(parent), name) {
+CheckBox::CheckBox(QWidget* parent, std::string const& name) : Control(new QCheckBox(parent), name)
+{
     Widget().setFocusPolicy(Qt::TabFocus);
 }
 
-bool CheckBox::Value() const {
-    return static_cast<QCheckBox const &>(Widget()).isChecked();
+bool CheckBox::Value() const
+{
+    return static_cast<QCheckBox const&>(Widget()).isChecked();
 }
 
-void CheckBox::Apply(ControlProperties const &properties) {
+void CheckBox::Apply(ControlProperties const& properties)
+{
     Control::Apply(properties);
-    auto &box = static_cast<QCheckBox &>(Widget());
+    auto& box = static_cast<QCheckBox&>(Widget());
     box.setFont(ControlFont(properties, 20));
     box.setText(ToQt(properties.caption));
 }
 
-GroupBox::GroupBox(QWidget *parent, std::string const &name) : Control(new QGroupBox(parent), name) {}
+GroupBox::GroupBox(QWidget* parent, std::string const& name) : Control(new QGroupBox(parent), name) {}
 
-void GroupBox::Apply(ControlProperties const &properties) {
+void GroupBox::Apply(ControlProperties const& properties)
+{
     Control::Apply(properties);
-    auto &box = static_cast<QGroupBox &>(Widget());
+    auto& box = static_cast<QGroupBox&>(Widget());
     box.setFont(ControlFont(properties, 8));
     box.setTitle(ToQt(properties.caption));
 }

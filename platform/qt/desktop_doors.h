@@ -4,7 +4,7 @@
 
 // Where the doors lead on a desktop.
 
-int ShowMessageBox(MessageBoxRequest const &request);
-void OpenInBrowser(std::string const &address);
-std::optional<std::string> ShowFileDialog(FileDialogRequest const &request);
-bool ShowPrintDialog(QPrinter &printer);
+int ShowMessageBox(MessageBoxRequest const& request);
+void OpenInBrowser(std::string const& address);
+std::optional<std::string> ShowFileDialog(FileDialogRequest const& request);
+bool ShowPrintDialog(QPrinter& printer);

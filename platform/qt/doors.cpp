@@ -7,15 +7,18 @@
 #include <QDesktopServices>
 #include <QUrl>
 
-Doors &PlatformDoors() {
+Doors& PlatformDoors()
+{
     static Doors doors = {ShowMessageBox, OpenInBrowser, ShowFileDialog, ShowPrintDialog};
     return doors;
 }
 
-void OpenInBrowser(std::string const &address) {
+void OpenInBrowser(std::string const& address)
+{
     QDesktopServices::openUrl(QUrl(ToQt(address)));
 }
 
-void ShowURL(std::string_view address) {
+void ShowURL(std::string_view address)
+{
     PlatformDoors().browser(std::string(address));
 }

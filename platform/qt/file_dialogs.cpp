@@ -13,7 +13,8 @@
 namespace {
 
 /// The folder asked for, else the user's documents, else the user's home.
-std::string StartFolder(FolderItem const &wanted) {
+std::string StartFolder(FolderItem const& wanted)
+{
     if (wanted.IsFolder()) {
         return wanted.Path();
     }
@@ -21,21 +22,24 @@ std::string StartFolder(FolderItem const &wanted) {
     return FromQt(QDir(documents).exists() ? documents : QDir::homePath());
 }
 
-std::optional<FolderItem> Ask(FileDialogRequest const &request) {
+std::optional<FolderItem> Ask(FileDialogRequest const& request)
+{
     std::optional<std::string> const path = PlatformDoors().fileDialog(request);
     return path ? std::optional(FolderItem(*path)) : std::nullopt;
 }
 
 /// Where a system has file dialogs of its own that users know, those are shown; elsewhere the toolkit's,
 /// which alone show the prompt.
-bool HasFamiliarDialogs() {
+bool HasFamiliarDialogs()
+{
     QString const platform = QGuiApplication::platformName();
     return platform == QLatin1String("cocoa") || platform == QLatin1String("windows");
 }
 
 } // namespace
 
-std::optional<std::string> ShowFileDialog(FileDialogRequest const &request) {
+std::optional<std::string> ShowFileDialog(FileDialogRequest const& request)
+{
     QFileDialog dialog(TopLevel::front(), ToQt(request.title), ToQt(request.folder));
     dialog.setOption(QFileDialog::DontUseNativeDialog, !HasFamiliarDialogs());
     dialog.setAcceptMode(request.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
@@ -50,10 +54,12 @@ std::optional<std::string> ShowFileDialog(FileDialogRequest const &request) {
     return FromQt(dialog.selectedFiles().constFirst());
 }
 
-std::optional<FolderItem> OpenDialog::ShowModal() const {
+std::optional<FolderItem> OpenDialog::ShowModal() const
+{
     return Ask({false, Title, "", StartFolder(InitialDirectory), ""});
 }
 
-std::optional<FolderItem> SaveAsDialog::ShowModal() const {
+std::optional<FolderItem> SaveAsDialog::ShowModal() const
+{
     return Ask({true, Title, PromptText, StartFolder(InitialDirectory), SuggestedFileName});
 }

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr std::size_t kLongestLine = 64 * 1024; // bytes
+constexpr std::size_t kLongestLine = 65536; // bytes
 constexpr qint64 kChunk = 4096;
 
 } // namespace
@@ -23,7 +23,8 @@ TextInputStream::TextInputStream(std::unique_ptr<QFile> file) : file_(std::move(
 TextInputStream::~TextInputStream() = default;
 
 /// Reads on. False at the end of the file and after a fault.
-bool TextInputStream::Fill() {
+bool TextInputStream::Fill()
+{
     QByteArray chunk(kChunk, '\0');
     qint64 const count = file_->read(chunk.data(), kChunk);
     if (count < 0) {
@@ -34,7 +35,8 @@ bool TextInputStream::Fill() {
     return count > 0;
 }
 
-std::string TextInputStream::ReadLine() {
+std::string TextInputStream::ReadLine()
+{
     std::size_t end = buffer_.find_first_of("\r\n");
     // A CR at the very end of what was read may be the first half of a line end.
     while (fault_.empty() && buffer_.size() <= kLongestLine &&
@@ -58,18 +60,23 @@ std::string TextInputStream::ReadLine() {
     return FromQt(line);
 }
 
-void TextInputStream::Close() {
+void TextInputStream::Close()
+{
     file_->close();
 }
 
 TextOutputStream::TextOutputStream(std::string path, bool makesFolder)
-    : path_(std::move(path)), makesFolder_(makesFolder) {}
+    : path_(std::move(path)), makesFolder_(makesFolder)
+{
+}
 
-void TextOutputStream::WriteLine(std::string_view text) {
+void TextOutputStream::WriteLine(std::string_view text)
+{
     text_.append(text).append(kLineEnd);
 }
 
-std::string TextOutputStream::Close() {
+std::string TextOutputStream::Close()
+{
     QString const path = ToQt(path_);
     if (makesFolder_ && !QDir().mkpath(QFileInfo(path).path())) {
         return "its folder could not be made";
@@ -77,28 +84,34 @@ std::string TextOutputStream::Close() {
     return FromQt(SaveWhole(path, QByteArray::fromStdString(text_)));
 }
 
-FolderItem::FolderItem(std::string path, bool makesFolder)
-    : path_(std::move(path)), makesFolder_(makesFolder) {}
+FolderItem::FolderItem(std::string path, bool makesFolder) : path_(std::move(path)), makesFolder_(makesFolder)
+{
+}
 
-std::string FolderItem::Name() const {
+std::string FolderItem::Name() const
+{
     return FromQt(QFileInfo(ToQt(path_)).fileName());
 }
 
-bool FolderItem::IsFolder() const {
+bool FolderItem::IsFolder() const
+{
     return QFileInfo(ToQt(path_)).isDir();
 }
 
-FolderItem FolderItem::Child(std::string_view name, bool followAlias) const {
+FolderItem FolderItem::Child(std::string_view name, bool followAlias) const
+{
     QFileInfo const child(QDir(ToQt(path_)), ToQt(name));
     bool const isAlias = followAlias && child.isSymLink();
     return FolderItem(FromQt(isAlias ? child.symLinkTarget() : child.filePath()));
 }
 
-TextOutputStream FolderItem::CreateTextFile() const {
+TextOutputStream FolderItem::CreateTextFile() const
+{
     return {path_, makesFolder_};
 }
 
-std::unique_ptr<TextInputStream> FolderItem::OpenAsTextFile(std::string &fault) const {
+std::unique_ptr<TextInputStream> FolderItem::OpenAsTextFile(std::string& fault) const
+{
     QString const path = ToQt(path_);
     QFileInfo const place(path);
     if (place.exists() && !place.isFile()) { // opening a pipe or a device could wait for ever
@@ -113,7 +126,8 @@ std::unique_ptr<TextInputStream> FolderItem::OpenAsTextFile(std::string &fault) 
     return std::make_unique<TextInputStream>(std::move(file));
 }
 
-std::optional<FolderItem> GetFolderItem(std::string_view path, int /*mode*/) {
+std::optional<FolderItem> GetFolderItem(std::string_view path, int /*mode*/)
+{
     QFileInfo const place(ToQt(path));
     if (place.isAbsolute()) {
         return FolderItem(std::string(path));
@@ -125,7 +139,8 @@ std::optional<FolderItem> GetFolderItem(std::string_view path, int /*mode*/) {
     return FolderItem(FromQt(QDir(settings).filePath(ToQt(path))), true);
 }
 
-FolderItem Volume(int index) {
+FolderItem Volume(int index)
+{
     QFileInfoList const roots = QDir::drives();
     return FolderItem(FromQt(index < roots.size() ? roots[index].filePath() : QDir::rootPath()));
 }

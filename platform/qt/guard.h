@@ -6,7 +6,7 @@
 #include <type_traits>
 
 /// What an exception that leaves a handler is reported to; empty until one is installed.
-std::function<void(std::string_view reason)> &ExceptionHelper();
+std::function<void(std::string_view reason)>& ExceptionHelper();
 
 /// Reports the exception at hand to the helper, or passes it on where there is none.
 void ReportException();
@@ -14,8 +14,9 @@ void ReportException();
 /// Calls a handler of the program from an event. An exception ends at the report: the toolkit can't carry
 /// one. Gives what the handler gives, or a default value after an exception.
 template <class Handler, class... Arguments>
-auto Guarded(Handler const &handler, Arguments &&...arguments) {
-    using Result = std::invoke_result_t<Handler const &, Arguments...>;
+auto Guarded(Handler const& handler, Arguments&&... arguments)
+{
+    using Result = std::invoke_result_t<Handler const&, Arguments...>;
     try {
         return handler(std::forward<Arguments>(arguments)...);
     } catch (...) {

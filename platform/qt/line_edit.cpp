@@ -21,13 +21,15 @@ namespace {
 
 constexpr int kNoLimit = std::numeric_limits<int>::max();
 
-bool IsKeyOfWindow(QKeyEvent const &event) {
+bool IsKeyOfWindow(QKeyEvent const& event)
+{
     bool const isTab = event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter ||
            (isTab && !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)));
 }
 
-bool IsModifierAlone(QKeyEvent const &event) {
+bool IsModifierAlone(QKeyEvent const& event)
+{
     switch (event.key()) {
     case Qt::Key_Shift:
     case Qt::Key_Control:
@@ -49,18 +51,21 @@ bool IsModifierAlone(QKeyEvent const &event) {
     }
 }
 
-bool TypesText(QKeyEvent const &event) {
+bool TypesText(QKeyEvent const& event)
+{
     return !event.text().isEmpty() && event.text().at(0).isPrint() &&
            !(event.modifiers() & (Qt::ControlModifier | Qt::MetaModifier));
 }
 
-QString KeyText(QKeyEvent const &event) {
+QString KeyText(QKeyEvent const& event)
+{
     return TypesText(event) ? event.text() : QKeySequence(event.keyCombination()).toString();
 }
 
 } // namespace
 
-LineEdit::LineEdit(QWidget *parent) : QLineEdit(parent), limit_(kNoLimit) {
+LineEdit::LineEdit(QWidget* parent) : QLineEdit(parent), limit_(kNoLimit)
+{
     setMaxLength(kNoLimit);
     connect(this, &QLineEdit::textEdited, this, [this] {
         if (actsUnderWay_ == 0) {
@@ -74,7 +79,8 @@ LineEdit::LineEdit(QWidget *parent) : QLineEdit(parent), limit_(kNoLimit) {
     });
 }
 
-void LineEdit::writeByProgram(QString const &text) {
+void LineEdit::writeByProgram(QString const& text)
+{
     lastText_ = text;
     setText(text);
     if (isReadOnly()) {
@@ -84,11 +90,13 @@ void LineEdit::writeByProgram(QString const &text) {
     }
 }
 
-void LineEdit::limitUserTo(int characters) {
+void LineEdit::limitUserTo(int characters)
+{
     limit_ = characters;
 }
 
-void LineEdit::forgetTyping() {
+void LineEdit::forgetTyping()
+{
     if (!isUndoAvailable()) {
         return;
     }
@@ -105,23 +113,26 @@ void LineEdit::forgetTyping() {
     }
 }
 
-void LineEdit::pasteFrom(QClipboard::Mode mode) {
+void LineEdit::pasteFrom(QClipboard::Mode mode)
+{
     QString const text = admitted(QGuiApplication::clipboard()->text(mode), room());
     if (!isReadOnly() && !text.isEmpty()) {
         actOfUser([&] { insert(text); });
     }
 }
 
-void LineEdit::clearSelection() {
+void LineEdit::clearSelection()
+{
     if (!isReadOnly() && hasSelectedText()) {
         actOfUser([this] { del(); });
     }
 }
 
-bool LineEdit::event(QEvent *event) {
+bool LineEdit::event(QEvent* event)
+{
     if (event->type() == QEvent::ShortcutOverride) {
-        auto *const key = static_cast<QKeyEvent *>(event);
-        QAction const *const action = MenuActionOf(*window(), *key);
+        auto* const key = static_cast<QKeyEvent*>(event);
+        QAction const* const action = MenuActionOf(*window(), *key);
         if (action != nullptr && action->isEnabled()) {
             // The one key that the field keeps from the menu: taking back what was just typed.
             event->setAccepted(key->matches(QKeySequence::Undo) && isUndoAvailable());
@@ -131,7 +142,23 @@ bool LineEdit::event(QEvent *event) {
     return QLineEdit::event(event);
 }
 
-void LineEdit::keyPressEvent(QKeyEvent *event) {
+/// A walk through the menu bar by key leaves the selection as it is, as one by mouse does.
+void LineEdit::focusInEvent(QFocusEvent* event)
+{
+    bool const fromMenu = event->reason() == Qt::MenuBarFocusReason;
+    QFocusEvent entered(event->type(), fromMenu ? Qt::PopupFocusReason : event->reason());
+    QLineEdit::focusInEvent(&entered);
+}
+
+void LineEdit::focusOutEvent(QFocusEvent* event)
+{
+    bool const toMenu = event->reason() == Qt::MenuBarFocusReason;
+    QFocusEvent left(event->type(), toMenu ? Qt::PopupFocusReason : event->reason());
+    QLineEdit::focusOutEvent(&left);
+}
+
+void LineEdit::keyPressEvent(QKeyEvent* event)
+{
     if (IsKeyOfWindow(*event)) {
         event->ignore();
         return;
@@ -150,7 +177,8 @@ void LineEdit::keyPressEvent(QKeyEvent *event) {
     }
 }
 
-void LineEdit::typeKey(QKeyEvent *event) {
+void LineEdit::typeKey(QKeyEvent* event)
+{
     if (event->matches(QKeySequence::Paste)) {
         bool const fromSelection = event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier);
         pasteFrom(fromSelection ? QClipboard::Selection : QClipboard::Clipboard);
@@ -159,7 +187,8 @@ void LineEdit::typeKey(QKeyEvent *event) {
     }
 }
 
-void LineEdit::inputMethodEvent(QInputMethodEvent *event) {
+void LineEdit::inputMethodEvent(QInputMethodEvent* event)
+{
     QInputMethodEvent limited(event->preeditString(), event->attributes());
     limited.setCommitString(admitted(event->commitString(), room() + event->replacementLength()),
                             event->replacementStart(), event->replacementLength());
@@ -167,7 +196,8 @@ void LineEdit::inputMethodEvent(QInputMethodEvent *event) {
     event->setAccepted(limited.isAccepted());
 }
 
-void LineEdit::mouseReleaseEvent(QMouseEvent *event) {
+void LineEdit::mouseReleaseEvent(QMouseEvent* event)
+{
     if (event->button() == Qt::MiddleButton && QGuiApplication::clipboard()->supportsSelection()) {
         deselect();
         pasteFrom(QClipboard::Selection);
@@ -176,10 +206,11 @@ void LineEdit::mouseReleaseEvent(QMouseEvent *event) {
     QLineEdit::mouseReleaseEvent(event);
 }
 
-void LineEdit::contextMenuEvent(QContextMenuEvent *event) {
-    QMenu *const menu = createStandardContextMenu();
+void LineEdit::contextMenuEvent(QContextMenuEvent* event)
+{
+    QMenu* const menu = createStandardContextMenu();
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    if (auto *const paste = menu->findChild<QAction *>(QStringLiteral("edit-paste"))) {
+    if (auto* const paste = menu->findChild<QAction*>(QStringLiteral("edit-paste"))) {
         disconnect(paste, &QAction::triggered, this, nullptr);
         connect(paste, &QAction::triggered, this, [this] { pasteFrom(QClipboard::Clipboard); });
     }
@@ -188,7 +219,8 @@ void LineEdit::contextMenuEvent(QContextMenuEvent *event) {
 
 /// The drop is taken a moment later: the program's answer to it may be a message box, for which the other
 /// program would have to wait.
-void LineEdit::dropEvent(QDropEvent *event) {
+void LineEdit::dropEvent(QDropEvent* event)
+{
     QDragLeaveEvent leave;
     dragLeaveEvent(&leave);
     if (isReadOnly() || !event->mimeData()->hasText()) {
@@ -205,10 +237,11 @@ void LineEdit::dropEvent(QDropEvent *event) {
 }
 
 /// A drop moves the focus to its field before it changes the text.
-void LineEdit::takeDrop(QString const &text, int position) {
+void LineEdit::takeDrop(QString const& text, int position)
+{
     QPointer<LineEdit> const field(this);
     setFocus(Qt::OtherFocusReason);
-    if (auto *const top = dynamic_cast<TopLevel *>(window())) {
+    if (auto* const top = dynamic_cast<TopLevel*>(window())) {
         top->noteFocus(this);
         TopLevel::tellFocus();
     }
@@ -222,12 +255,14 @@ void LineEdit::takeDrop(QString const &text, int position) {
 }
 
 /// How many characters the user may add; what is selected makes room.
-qsizetype LineEdit::room() const {
+qsizetype LineEdit::room() const
+{
     return limit_ - (text().size() - selectedText().size());
 }
 
 /// What of an inserted text fits into one line and into the room.
-QString LineEdit::admitted(QString text, qsizetype room) const {
+QString LineEdit::admitted(QString text, qsizetype room) const
+{
     static QRegularExpression const atEnds(
         QStringLiteral("^[\\r\\n\\x{2028}\\x{2029}]+|[\\r\\n\\x{2028}\\x{2029}]+$"));
     static QRegularExpression const inside(QStringLiteral("\\r\\n|[\\r\\n\\x{2028}\\x{2029}]"));
@@ -241,14 +276,16 @@ QString LineEdit::admitted(QString text, qsizetype room) const {
 }
 
 /// Keeps the whole text selected, but with its start in sight.
-void LineEdit::showStart() {
+void LineEdit::showStart()
+{
     if (cursorPosition() != 0) {
         auto const length = static_cast<int>(text().size());
         setSelection(length, -length);
     }
 }
 
-void LineEdit::tellChange() {
+void LineEdit::tellChange()
+{
     if (text() != lastText_) {
         lastText_ = text();
         if (userChange) {
@@ -259,7 +296,8 @@ void LineEdit::tellChange() {
 
 /// Runs one act of the user; its change of the text is told once, when the act is complete.
 template <class Act>
-void LineEdit::actOfUser(Act const &act) {
+void LineEdit::actOfUser(Act const& act)
+{
     QPointer<LineEdit> const field(this);
     ++actsUnderWay_;
     act();

@@ -9,13 +9,13 @@
 /// complete, and keeps the keys of the window and of the menu bar out of the field.
 class LineEdit final : public QLineEdit {
 public:
-    explicit LineEdit(QWidget *parent);
+    explicit LineEdit(QWidget* parent);
 
-    std::function<bool(QString const &key)> keyDown; ///< before a key; true consumes it
+    std::function<bool(QString const& key)> keyDown; ///< before a key; true consumes it
     std::function<void()> gotFocus;                  ///< told by TopLevel
     std::function<void()> userChange;                ///< after an act of the user that changed the text
 
-    void writeByProgram(QString const &text);
+    void writeByProgram(QString const& text);
     void limitUserTo(int characters);
     /// What is typed from here on can be taken back, what was typed before no longer.
     void forgetTyping();
@@ -24,23 +24,25 @@ public:
     void clearSelection();
 
 protected:
-    bool event(QEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
-    void inputMethodEvent(QInputMethodEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
-    void contextMenuEvent(QContextMenuEvent *event) override;
-    void dropEvent(QDropEvent *event) override;
+    bool event(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     [[nodiscard]] qsizetype room() const;
     [[nodiscard]] QString admitted(QString text, qsizetype room) const;
-    void typeKey(QKeyEvent *event);
-    void takeDrop(QString const &text, int position);
+    void typeKey(QKeyEvent* event);
+    void takeDrop(QString const& text, int position);
     void showStart();
     void tellChange();
 
     template <class Act>
-    void actOfUser(Act const &act);
+    void actOfUser(Act const& act);
 
     QString lastText_; ///< what the program or the last told change left, to see whether an act changed it
     int limit_;

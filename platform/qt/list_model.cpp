@@ -1,34 +1,39 @@
 #include "platform/qt/list_model.h"
 
-int ListModel::rowCount(QModelIndex const &parent) const {
+int ListModel::rowCount(QModelIndex const& parent) const
+{
     return parent.isValid() ? 0 : static_cast<int>(rows_.size());
 }
 
-int ListModel::columnCount(QModelIndex const &parent) const {
+int ListModel::columnCount(QModelIndex const& parent) const
+{
     return parent.isValid() ? 0 : columns_;
 }
 
-QVariant ListModel::data(QModelIndex const &index, int role) const {
+QVariant ListModel::data(QModelIndex const& index, int role) const
+{
     if (!index.isValid()) {
         return {};
     }
-    auto const &row = rows_[static_cast<std::size_t>(index.row())];
+    auto const& row = rows_[static_cast<std::size_t>(index.row())];
     auto const column = static_cast<std::size_t>(index.column());
-    Cell const &found = column < row.size() ? row[column] : Cell();
+    Cell const& found = column < row.size() ? row[column] : Cell();
     if (role == Qt::DisplayRole) {
         return found.text;
     }
     return role == Qt::TextAlignmentRole ? QVariant(static_cast<int>(found.alignment)) : QVariant();
 }
 
-void ListModel::append(QString const &text) {
+void ListModel::append(QString const& text)
+{
     int const row = rowCount();
     beginInsertRows({}, row, row);
     rows_.push_back({Cell{text}});
     endInsertRows();
 }
 
-void ListModel::remove(int row) {
+void ListModel::remove(int row)
+{
     if (row < 0 || row >= rowCount()) {
         return;
     }
@@ -37,13 +42,15 @@ void ListModel::remove(int row) {
     endRemoveRows();
 }
 
-void ListModel::clear() {
+void ListModel::clear()
+{
     beginResetModel();
     rows_.clear();
     endResetModel();
 }
 
-void ListModel::setColumns(int count) {
+void ListModel::setColumns(int count)
+{
     if (count > columns_) {
         beginInsertColumns({}, columns_, count - 1);
         columns_ = count;
@@ -55,26 +62,29 @@ void ListModel::setColumns(int count) {
     }
 }
 
-void ListModel::setText(int row, int column, QString const &text) {
-    if (Cell *const found = cell(row, column)) {
+void ListModel::setText(int row, int column, QString const& text)
+{
+    if (Cell* const found = cell(row, column)) {
         found->text = text;
         emit dataChanged(index(row, column), index(row, column));
     }
 }
 
-void ListModel::setAlignment(int row, int column, Qt::Alignment alignment) {
-    if (Cell *const found = cell(row, column)) {
+void ListModel::setAlignment(int row, int column, Qt::Alignment alignment)
+{
+    if (Cell* const found = cell(row, column)) {
         found->alignment = alignment | Qt::AlignVCenter;
         emit dataChanged(index(row, column), index(row, column));
     }
 }
 
 /// The cell at this place, made if the row is still shorter; null outside the list.
-ListModel::Cell *ListModel::cell(int row, int column) {
+ListModel::Cell* ListModel::cell(int row, int column)
+{
     if (row < 0 || row >= rowCount() || column < 0 || column >= columns_) {
         return nullptr;
     }
-    auto &cells = rows_[static_cast<std::size_t>(row)];
+    auto& cells = rows_[static_cast<std::size_t>(row)];
     auto const at = static_cast<std::size_t>(column);
     if (cells.size() <= at) {
         cells.resize(at + 1);

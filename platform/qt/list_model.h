@@ -14,19 +14,19 @@ public:
         Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
     };
 
-    [[nodiscard]] int rowCount(QModelIndex const &parent = {}) const override;
-    [[nodiscard]] int columnCount(QModelIndex const &parent = {}) const override;
-    [[nodiscard]] QVariant data(QModelIndex const &index, int role) const override;
+    [[nodiscard]] int rowCount(QModelIndex const& parent = {}) const override;
+    [[nodiscard]] int columnCount(QModelIndex const& parent = {}) const override;
+    [[nodiscard]] QVariant data(QModelIndex const& index, int role) const override;
 
-    void append(QString const &text);
+    void append(QString const& text);
     void remove(int row);
     void clear();
     void setColumns(int count);
-    void setText(int row, int column, QString const &text);
+    void setText(int row, int column, QString const& text);
     void setAlignment(int row, int column, Qt::Alignment alignment);
 
 private:
-    Cell *cell(int row, int column);
+    Cell* cell(int row, int column);
 
     std::vector<std::vector<Cell>> rows_;
     int columns_ = 1;

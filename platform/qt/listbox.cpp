@@ -20,8 +20,8 @@ class CellPainter final : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    void paint(QPainter *painter, QStyleOptionViewItem const &option,
-               QModelIndex const &index) const override {
+    void paint(QPainter* painter, QStyleOptionViewItem const& option, QModelIndex const& index) const override
+    {
         bool const selected = option.state.testFlag(QStyle::State_Selected);
         if (selected) {
             painter->fillRect(option.rect, option.palette.brush(QPalette::Highlight));
@@ -35,13 +35,15 @@ public:
     }
 };
 
-int ToRow(std::int64_t row) {
+int ToRow(std::int64_t row)
+{
     return row < 0 || row > std::numeric_limits<int>::max() ? -1 : static_cast<int>(row);
 }
 
 } // namespace
 
-ListView::ListView(QWidget *parent) : QTableView(parent) {
+ListView::ListView(QWidget* parent) : QTableView(parent)
+{
     setModel(&rows_);
     setItemDelegate(new CellPainter(this));
     setShowGrid(false);
@@ -60,7 +62,8 @@ ListView::ListView(QWidget *parent) : QTableView(parent) {
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
 }
 
-void ListView::setColumnWidths(QString const &widths) {
+void ListView::setColumnWidths(QString const& widths)
+{
     QStringList const parts = widths.split(u',', Qt::SkipEmptyParts);
     for (int column = 0; column < rows_.columnCount(); ++column) {
         bool const stated = column < parts.size();
@@ -71,70 +74,84 @@ void ListView::setColumnWidths(QString const &widths) {
     }
 }
 
-Listbox::Listbox(QWidget *parent, std::string const &name) : Control(new ListView(parent), name) {
+Listbox::Listbox(QWidget* parent, std::string const& name) : Control(new ListView(parent), name)
+{
     RowSelectionType(0);
 }
 
-void Listbox::Apply(ControlProperties const &properties) {
+void Listbox::Apply(ControlProperties const& properties)
+{
     Control::Apply(properties);
     Widget().setFont(ControlFont(properties, 0));
 }
 
-void Listbox::AddRow(std::string_view text) {
-    auto &view = static_cast<ListView &>(Widget());
+void Listbox::AddRow(std::string_view text)
+{
+    auto& view = static_cast<ListView&>(Widget());
     view.rows().append(ToQt(text));
     if (!view.isHidden()) {
         view.scrollToBottom();
     }
 }
 
-void Listbox::RemoveRow(std::int64_t row) {
-    auto &view = static_cast<ListView &>(Widget());
+void Listbox::RemoveRow(std::int64_t row)
+{
+    auto& view = static_cast<ListView&>(Widget());
     view.rows().remove(ToRow(row));
     if (!view.isHidden()) {
         view.scrollToBottom();
     }
 }
 
-void Listbox::DeleteAllRows() {
-    static_cast<ListView &>(Widget()).rows().clear();
+void Listbox::DeleteAllRows()
+{
+    static_cast<ListView&>(Widget()).rows().clear();
 }
 
-std::int64_t Listbox::ListCount() const {
-    return static_cast<ListView const &>(Widget()).rows().rowCount();
+std::int64_t Listbox::ListCount() const
+{
+    return static_cast<ListView const&>(Widget()).rows().rowCount();
 }
 
-std::string Listbox::List(std::int64_t row) const {
+std::string Listbox::List(std::int64_t row) const
+{
     return Cell(row, 0);
 }
 
-std::string Listbox::Cell(std::int64_t row, int column) const {
-    ListModel const &rows = static_cast<ListView const &>(Widget()).rows();
+std::string Listbox::Cell(std::int64_t row, int column) const
+{
+    ListModel const& rows = static_cast<ListView const&>(Widget()).rows();
     return FromQt(rows.data(rows.index(ToRow(row), column), Qt::DisplayRole).toString());
 }
 
-void Listbox::Cell(std::int64_t row, int column, std::string_view text) {
-    static_cast<ListView &>(Widget()).rows().setText(ToRow(row), column, ToQt(text));
+void Listbox::Cell(std::int64_t row, int column, std::string_view text)
+{
+    static_cast<ListView&>(Widget()).rows().setText(ToRow(row), column, ToQt(text));
 }
 
-void Listbox::CellAlignment(std::int64_t row, int column, Alignment alignment) {
+void Listbox::CellAlignment(std::int64_t row, int column, Alignment alignment)
+{
     Qt::Alignment const side = alignment == Right ? Qt::AlignRight : Qt::AlignLeft;
-    static_cast<ListView &>(Widget()).rows().setAlignment(ToRow(row), column, side);
+    static_cast<ListView&>(Widget()).rows().setAlignment(ToRow(row), column, side);
 }
 
-int Listbox::ColumnCount() const {
-    return static_cast<ListView const &>(Widget()).rows().columnCount();
+int Listbox::ColumnCount() const
+{
+    return static_cast<ListView const&>(Widget()).rows().columnCount();
 }
 
-void Listbox::ColumnCount(int count) {
-    static_cast<ListView &>(Widget()).rows().setColumns(count);
+void Listbox::ColumnCount(int count)
+{
+    static_cast<ListView&>(Widget()).rows().setColumns(count);
 }
 
-void Listbox::ColumnWidths(std::string_view widths) {
-    static_cast<ListView &>(Widget()).setColumnWidths(ToQt(widths));
+void Listbox::ColumnWidths(std::string_view widths)
+{
+    static_cast<ListView&>(Widget()).setColumnWidths(ToQt(widths));
 }
 
-void Listbox::RowSelectionType(int type) {
-    static_cast<ListView &>(Widget()).setSelectionMode(type == 1 ? QAbstractItemView::ExtendedSelection
-                                                                 : QAbstractItemView::SingleSelection);
+void Listbox::RowSelectionType(int type)
+{
+    static_cast<ListView&>(Widget()).setSelectionMode(type == 1 ? QAbstractItemView::ExtendedSelection
+                                                                : QAbstractItemView::SingleSelection);
 }

@@ -23,41 +23,45 @@ namespace {
 struct TextCommand {
     std::string_view item;
     bool needsEditable;
-    void (*run)(LineEdit &field);
+    void (*run)(LineEdit& field);
 };
 
 constexpr std::array kTextCommands = {
     TextCommand{"EditCut",   true,
-                [](LineEdit &field) {
+                [](LineEdit& field) {
                     field.copy();
                     field.clearSelection();
                 }                                                                                  },
-    TextCommand{"EditCopy",  false, [](LineEdit &field) { field.copy(); }                          },
-    TextCommand{"EditPaste", true,  [](LineEdit &field) { field.pasteFrom(QClipboard::Clipboard); }},
-    TextCommand{"EditClear", true,  [](LineEdit &field) { field.clearSelection(); }                },
+    TextCommand{"EditCopy",  false, [](LineEdit& field) { field.copy(); }                          },
+    TextCommand{"EditPaste", true,  [](LineEdit& field) { field.pasteFrom(QClipboard::Clipboard); }},
+    TextCommand{"EditClear", true,  [](LineEdit& field) { field.clearSelection(); }                },
 };
 
-TextCommand const *FindTextCommand(std::string_view item) {
-    auto const *const found = std::find_if(kTextCommands.begin(), kTextCommands.end(),
-                                           [&](TextCommand const &command) { return command.item == item; });
+TextCommand const* FindTextCommand(std::string_view item)
+{
+    auto const* const found = std::find_if(kTextCommands.begin(), kTextCommands.end(),
+                                           [&](TextCommand const& command) { return command.item == item; });
     return found == kTextCommands.end() ? nullptr : found;
 }
 
-LineEdit *FocusedField(TopLevel const *front) {
-    return front == nullptr ? nullptr : dynamic_cast<LineEdit *>(front->focusedControl());
+LineEdit* FocusedField(TopLevel const* front)
+{
+    return front == nullptr ? nullptr : dynamic_cast<LineEdit*>(front->focusedControl());
 }
 
-QKeySequence ToKeys(std::string_view shortcut) {
-    return QKeySequence(ToQt(shortcut).replace(QStringLiteral("Cmd+"), QStringLiteral("Ctrl+")));
+QKeySequence ToKeys(std::string_view shortcut)
+{
+    return {ToQt(shortcut).replace(QStringLiteral("Cmd+"), QStringLiteral("Ctrl+"))};
 }
 
-QAction *FindAction(QList<QAction *> const &actions, QKeySequence const &keys) {
-    for (QAction *const action : actions) {
+QAction* FindAction(QList<QAction*> const& actions, QKeySequence const& keys)
+{
+    for (QAction* const action : actions) {
         if (action->shortcut() == keys) {
             return action;
         }
         if (action->menu() != nullptr) {
-            if (QAction *const inside = FindAction(action->menu()->actions(), keys)) {
+            if (QAction* const inside = FindAction(action->menu()->actions(), keys)) {
                 return inside;
             }
         }
@@ -67,8 +71,9 @@ QAction *FindAction(QList<QAction *> const &actions, QKeySequence const &keys) {
 
 } // namespace
 
-QAction *MenuActionOf(QWidget const &window, QKeyEvent const &event) {
-    auto const *const top = dynamic_cast<TopLevel const *>(&window);
+QAction* MenuActionOf(QWidget const& window, QKeyEvent const& event)
+{
+    auto const* const top = dynamic_cast<TopLevel const*>(&window);
     if (top == nullptr || event.modifiers() == Qt::NoModifier) {
         return nullptr;
     }
@@ -76,7 +81,8 @@ QAction *MenuActionOf(QWidget const &window, QKeyEvent const &event) {
 }
 
 MenuItem::MenuItem(std::string_view name, std::string_view text, std::string_view shortcut)
-    : action_(std::make_unique<QAction>()) {
+    : action_(std::make_unique<QAction>())
+{
     action_->setObjectName(ToQt(name));
     action_->setText(ToQt(text));
     action_->setSeparator(text == "-");
@@ -88,42 +94,50 @@ MenuItem::MenuItem(std::string_view name, std::string_view text, std::string_vie
 
 MenuItem::~MenuItem() = default;
 
-std::string MenuItem::Name() const {
+std::string MenuItem::Name() const
+{
     return FromQt(action_->objectName());
 }
 
-std::string MenuItem::Text() const {
+std::string MenuItem::Text() const
+{
     return FromQt(action_->text());
 }
 
-bool MenuItem::Enabled() const {
+bool MenuItem::Enabled() const
+{
     return action_->isEnabled();
 }
 
-void MenuItem::Enabled(bool enabled) {
+void MenuItem::Enabled(bool enabled)
+{
     action_->setEnabled(enabled);
 }
 
-bool MenuItem::Visible() const {
+bool MenuItem::Visible() const
+{
     return visible_;
 }
 
-void MenuItem::Visible(bool visible) {
+void MenuItem::Visible(bool visible)
+{
     visible_ = visible;
     action_->setVisible(visible && !action_->text().isEmpty());
 }
 
-MenuItem &MenuItem::Append(std::unique_ptr<MenuItem> child) {
+MenuItem& MenuItem::Append(std::unique_ptr<MenuItem> child)
+{
     children_.push_back(std::move(child));
     return *children_.back();
 }
 
-MenuItem *MenuItem::Find(std::string_view name) {
+MenuItem* MenuItem::Find(std::string_view name)
+{
     if (Name() == name) {
         return this;
     }
-    for (auto const &child : children_) {
-        if (MenuItem *const found = child->Find(name)) {
+    for (auto const& child : children_) {
+        if (MenuItem* const found = child->Find(name)) {
             return found;
         }
     }
@@ -131,9 +145,10 @@ MenuItem *MenuItem::Find(std::string_view name) {
 }
 
 /// Makes the item a menu if it has anything to show in one, and a command otherwise.
-void MenuItem::BuildMenu(MenuBar &bar) {
+void MenuItem::BuildMenu(MenuBar& bar)
+{
     bool const opens = std::any_of(children_.begin(), children_.end(),
-                                   [](auto const &child) { return !child->Text().empty(); });
+                                   [](auto const& child) { return !child->Text().empty(); });
     if (opens) {
         menu_ = std::make_unique<QMenu>(action_->text());
         action_->setMenu(menu_.get());
@@ -142,7 +157,7 @@ void MenuItem::BuildMenu(MenuBar &bar) {
         QObject::connect(action_.get(), &QAction::triggered, action_.get(),
                          [this] { MenuBar::Choose(*this); });
     }
-    for (auto const &child : children_) {
+    for (auto const& child : children_) {
         child->BuildMenu(bar);
         if (opens) {
             menu_->addAction(&child->Action());
@@ -150,51 +165,57 @@ void MenuItem::BuildMenu(MenuBar &bar) {
     }
 }
 
-void MenuItem::BringUpToDate(TopLevel const *front) {
-    for (auto const &child : children_) {
+void MenuItem::BringUpToDate(TopLevel const* front)
+{
+    for (auto const& child : children_) {
         child->BringUpToDate(front);
     }
     if (!AutoEnabled) {
         return;
     }
-    if (TextCommand const *const command = FindTextCommand(Name())) {
-        LineEdit const *const field = FocusedField(front);
+    if (TextCommand const* const command = FindTextCommand(Name())) {
+        LineEdit const* const field = FocusedField(front);
         Enabled(field != nullptr && !(command->needsEditable && field->isReadOnly()));
     } else {
-        bool const isQuit = dynamic_cast<QuitMenuItem *>(this) != nullptr;
+        bool const isQuit = dynamic_cast<QuitMenuItem*>(this) != nullptr;
         Enabled(menu_ != nullptr || isQuit || (front != nullptr && front->owner().HandlesMenu(Name())));
     }
 }
 
 AppleMenuItem::AppleMenuItem(std::string_view name, std::string_view text, std::string_view shortcut)
-    : MenuItem(name, text, shortcut) {
+    : MenuItem(name, text, shortcut)
+{
     Action().setMenuRole(text.empty() ? QAction::NoRole : QAction::AboutRole);
 }
 
 QuitMenuItem::QuitMenuItem(std::string_view name, std::string_view text, std::string_view shortcut)
-    : MenuItem(name, text, shortcut) {
+    : MenuItem(name, text, shortcut)
+{
     Action().setMenuRole(QAction::QuitRole);
 }
 
 MenuBar::MenuBar() = default;
 MenuBar::~MenuBar() = default;
 
-MenuItem &MenuBar::Append(std::unique_ptr<MenuItem> item) {
+MenuItem& MenuBar::Append(std::unique_ptr<MenuItem> item)
+{
     items_.push_back(std::move(item));
     return *items_.back();
 }
 
-MenuItem &MenuBar::Item(std::string_view name) const {
-    for (auto const &item : items_) {
-        if (MenuItem *const found = item->Find(name)) {
+MenuItem& MenuBar::Item(std::string_view name) const
+{
+    for (auto const& item : items_) {
+        if (MenuItem* const found = item->Find(name)) {
             return *found;
         }
     }
     throw std::out_of_range("no menu item " + std::string(name));
 }
 
-void MenuBar::ShowIn(QMenuBar &bar) {
-    for (auto const &item : items_) {
+void MenuBar::ShowIn(QMenuBar& bar)
+{
+    for (auto const& item : items_) {
         if (!built_) {
             item->BuildMenu(*this);
         }
@@ -203,9 +224,10 @@ void MenuBar::ShowIn(QMenuBar &bar) {
     built_ = true;
 }
 
-void MenuBar::Update() {
-    TopLevel const *const front = TopLevel::front();
-    for (auto const &item : items_) {
+void MenuBar::Update()
+{
+    TopLevel const* const front = TopLevel::front();
+    for (auto const& item : items_) {
         item->BringUpToDate(front);
     }
     if (front != nullptr) {
@@ -214,12 +236,13 @@ void MenuBar::Update() {
 }
 
 /// Carries a command out: by the layer itself, or by the handler of the window in front.
-void MenuBar::Choose(MenuItem const &item) {
-    TopLevel *const front = TopLevel::front();
-    if (dynamic_cast<QuitMenuItem const *>(&item) != nullptr) {
+void MenuBar::Choose(MenuItem const& item)
+{
+    TopLevel* const front = TopLevel::front();
+    if (dynamic_cast<QuitMenuItem const*>(&item) != nullptr) {
         QCoreApplication::exit(0);
-    } else if (TextCommand const *const command = FindTextCommand(item.Name())) {
-        if (LineEdit *const field = FocusedField(front)) {
+    } else if (TextCommand const* const command = FindTextCommand(item.Name())) {
+        if (LineEdit* const field = FocusedField(front)) {
             command->run(*field);
         }
     } else if (front != nullptr) {

@@ -5,4 +5,4 @@ class QKeyEvent;
 class QWidget;
 
 /// The action in a window's menu bar that has this key as its shortcut, on or off; null if there is none.
-QAction *MenuActionOf(QWidget const &window, QKeyEvent const &event);
+QAction* MenuActionOf(QWidget const& window, QKeyEvent const& event);

@@ -5,7 +5,7 @@
 // What differs from one operating system to the next; the build chooses the file.
 
 /// How a line of text ends.
-extern char const *const kLineEnd;
+extern char const* const kLineEnd;
 
 /// Has the system put what was written to this file on the disk. Gives the reason of a failure, empty if
 /// there was none.

@@ -5,9 +5,10 @@
 #include <cerrno>
 #include <unistd.h>
 
-char const *const kLineEnd = "\n";
+char const* const kLineEnd = "\n";
 
-QString FlushToDisk(int handle) {
+QString FlushToDisk(int handle)
+{
     int result = 0;
     do {
         result = ::fsync(handle);

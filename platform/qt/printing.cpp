@@ -25,7 +25,8 @@ constexpr int kFontHeight = 12;
 /// so that a full or unwritable disk is noticed and an older file survives it.
 class PrintJob {
 public:
-    explicit PrintJob(std::unique_ptr<QPrinter> printer) : printer_(std::move(printer)) {
+    explicit PrintJob(std::unique_ptr<QPrinter> printer) : printer_(std::move(printer))
+    {
         if (file().isEmpty()) {
             begin(*printer_, printer_->resolution());
         } else {
@@ -39,7 +40,8 @@ public:
 
     [[nodiscard]] QString file() const { return printer_->outputFileName(); }
 
-    void draw(QPointF place, QString const &text) {
+    void draw(QPointF place, QString const& text)
+    {
         if (painter_.isActive()) {
             painter_.drawText(place, text);
         }
@@ -48,7 +50,8 @@ public:
     void nextPage() { hasPages_ = hasPages_ && (writer_ ? writer_->newPage() : printer_->newPage()); }
 
     /// Ends the job. Gives the reason of a failure, empty if there was none.
-    QString end() {
+    QString end()
+    {
         bool const isDrawn = painter_.isActive() && painter_.end() && hasPages_;
         if (writer_ == nullptr) {
             QPrinter::PrinterState const state = printer_->printerState();
@@ -62,7 +65,8 @@ public:
     }
 
 private:
-    void begin(QPaintDevice &device, int resolution) {
+    void begin(QPaintDevice& device, int resolution)
+    {
         hasPages_ = painter_.begin(&device);
         if (hasPages_) {
             QFont font(QStringLiteral("sans-serif"));
@@ -83,27 +87,32 @@ private:
 
 Graphics::Graphics(std::unique_ptr<PrintJob> job) : job_(std::move(job)) {}
 
-Graphics::~Graphics() {
+Graphics::~Graphics()
+{
     QString const reason = job_->end();
     if (!reason.isEmpty() && Failed) {
         Guarded(Failed, FromQt(QFileInfo(job_->file()).fileName()), FromQt(reason));
     }
 }
 
-void Graphics::DrawString(std::string_view text, double x, double y, double /*width*/, bool /*condense*/) {
+void Graphics::DrawString(std::string_view text, double x, double y, double /*width*/, bool /*condense*/)
+{
     job_->draw(QPointF(x, y), ToQt(text));
 }
 
-void Graphics::NextPage() {
+void Graphics::NextPage()
+{
     job_->nextPage();
 }
 
-bool ShowPrintDialog(QPrinter &printer) {
+bool ShowPrintDialog(QPrinter& printer)
+{
     QPrintDialog dialog(&printer, TopLevel::front());
     return dialog.exec() == QDialog::Accepted;
 }
 
-std::unique_ptr<Graphics> OpenPrinterDialog() {
+std::unique_ptr<Graphics> OpenPrinterDialog()
+{
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
     printer->setPageOrientation(QPageLayout::Portrait);
     printer->setFullPage(true);

@@ -9,7 +9,8 @@
 namespace {
 
 /// The file system's own words, or ours where it has none.
-QString Worded(QString const &path, QString const &reason) {
+QString Worded(QString const& path, QString const& reason)
+{
     constexpr int kLongestName = 248; // bytes; the temporary beside the file needs seven more, of 255
     if (QFile::encodeName(QFileInfo(path).fileName()).size() > kLongestName) {
         return QStringLiteral("its name is too long");
@@ -19,7 +20,8 @@ QString Worded(QString const &path, QString const &reason) {
 }
 
 /// Writes and flushes. Left to itself the toolkit would notice a full disk only after the old file is gone.
-QString WriteAll(QSaveFile &file, QByteArray const &bytes) {
+QString WriteAll(QSaveFile& file, QByteArray const& bytes)
+{
     qint64 const written = file.write(bytes);
     if (written == bytes.size()) {
         return FlushToDisk(file.handle());
@@ -30,7 +32,8 @@ QString WriteAll(QSaveFile &file, QByteArray const &bytes) {
 
 } // namespace
 
-QString SaveWhole(QString const &path, QByteArray const &bytes) {
+QString SaveWhole(QString const& path, QByteArray const& bytes)
+{
     QFileInfo const place(path);
     if (place.exists() && !place.isFile()) {
         return QStringLiteral("it is not a plain file");

@@ -13,13 +13,15 @@
 
 namespace {
 
-QPointer<QWidget> &Front() {
+QPointer<QWidget>& Front()
+{
     static QPointer<QWidget> front;
     return front;
 }
 
 /// The field whose gain of the focus has not been told yet.
-QPointer<LineEdit> &Pending() {
+QPointer<LineEdit>& Pending()
+{
     static QPointer<LineEdit> pending;
     return pending;
 }
@@ -30,7 +32,8 @@ class EventOrder final : public QObject {
 public:
     using QObject::QObject;
 
-    bool eventFilter(QObject *receiver, QEvent *event) override {
+    bool eventFilter(QObject* receiver, QEvent* event) override
+    {
         switch (event->type()) {
         case QEvent::ShortcutOverride:
         case QEvent::KeyPress:
@@ -53,54 +56,68 @@ public:
 
 } // namespace
 
-TopLevel::TopLevel(Window &owner) : owner_(owner), content_(new QWidget(this)) {
+TopLevel::TopLevel(Window& owner) : owner_(owner), content_(new QWidget(this))
+{
     setCentralWidget(content_);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 TopLevel::~TopLevel() = default;
 
-void TopLevel::noteFocus(QWidget *widget) {
+void TopLevel::noteFocus(QWidget* widget)
+{
     if (widget == focusedControl_ || !content_->isAncestorOf(widget)) {
         return;
     }
     focusedControl_ = widget;
-    Pending() = dynamic_cast<LineEdit *>(widget);
+    Pending() = dynamic_cast<LineEdit*>(widget);
     if (Pending() != nullptr) {
         QMetaObject::invokeMethod(this, &TopLevel::tellFocus, Qt::QueuedConnection);
     }
     bringMenuBarUpToDate();
 }
 
-void TopLevel::tellFocus() {
+void TopLevel::tellFocus()
+{
     QPointer<LineEdit> const field = std::exchange(Pending(), nullptr);
     if (field != nullptr && field->gotFocus) {
         Guarded(field->gotFocus);
     }
 }
 
-TopLevel *TopLevel::front() {
-    return static_cast<TopLevel *>(Front().data());
+TopLevel* TopLevel::front()
+{
+    return static_cast<TopLevel*>(Front().data());
 }
 
-void TopLevel::followFocus() {
+void TopLevel::leaveFront()
+{
+    if (front() == this) {
+        Front() = nullptr;
+    }
+}
+
+void TopLevel::followFocus()
+{
     qApp->installEventFilter(new EventOrder(qApp));
-    QObject::connect(qApp, &QApplication::focusChanged, qApp, [](QWidget *, QWidget *now) {
+    QObject::connect(qApp, &QApplication::focusChanged, qApp, [](QWidget*, QWidget* now) {
         if (now != nullptr) {
-            if (auto *const top = dynamic_cast<TopLevel *>(now->window())) {
+            if (auto* const top = dynamic_cast<TopLevel*>(now->window())) {
                 top->noteFocus(now);
             }
         }
     });
 }
 
-void TopLevel::beginCommand() {
-    for (QLineEdit *const field : content_->findChildren<QLineEdit *>()) {
-        static_cast<LineEdit *>(field)->forgetTyping();
+void TopLevel::beginCommand()
+{
+    for (QLineEdit* const field : content_->findChildren<QLineEdit*>()) {
+        static_cast<LineEdit*>(field)->forgetTyping();
     }
 }
 
-bool TopLevel::event(QEvent *event) {
+bool TopLevel::event(QEvent* event)
+{
     if (event->type() == QEvent::WindowActivate) {
         Front() = this;
         bringMenuBarUpToDate();
@@ -109,12 +126,14 @@ bool TopLevel::event(QEvent *event) {
 }
 
 /// Only the desktop sends this event: the program closes a window by Window::Close.
-void TopLevel::closeEvent(QCloseEvent *event) {
+void TopLevel::closeEvent(QCloseEvent* event)
+{
     event->ignore();
     owner_.CloseByDesktop();
 }
 
-void TopLevel::keyPressEvent(QKeyEvent *event) {
+void TopLevel::keyPressEvent(QKeyEvent* event)
+{
     bool const isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     bool const isPlain = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
     if (isReturn && isPlain) {
@@ -126,7 +145,8 @@ void TopLevel::keyPressEvent(QKeyEvent *event) {
     QMainWindow::keyPressEvent(event);
 }
 
-void TopLevel::bringMenuBarUpToDate() {
+void TopLevel::bringMenuBarUpToDate()
+{
     if (owner_.menuBar_ != nullptr && front() == this) {
         owner_.menuBar_->Update();
     }
