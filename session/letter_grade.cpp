@@ -5,28 +5,26 @@
 
 #include <algorithm>
 
-std::array<Letter, 13> const kLetters = {
-    {
-     {"A+", &mainscreen::agrade},
-     {"A", &mainscreen::agrade},
-     {"A-", &mainscreen::agrade},
-     {"B+", &mainscreen::bgrade},
-     {"B", &mainscreen::bgrade},
-     {"B-", &mainscreen::bgrade},
-     {"C+", &mainscreen::cgrade},
-     {"C", &mainscreen::cgrade},
-     {"C-", &mainscreen::cgrade},
-     {"D+", &mainscreen::dgrade},
-     {"D", &mainscreen::dgrade},
-     {"D-", &mainscreen::dgrade},
-     {"F", &mainscreen::fgrade},
-     }
-};
+std::array<Letter, 13> const kLetters = std::to_array<Letter>({
+    {"A+", &mainscreen::agrade},
+    {"A",  &mainscreen::agrade},
+    {"A-", &mainscreen::agrade},
+    {"B+", &mainscreen::bgrade},
+    {"B",  &mainscreen::bgrade},
+    {"B-", &mainscreen::bgrade},
+    {"C+", &mainscreen::cgrade},
+    {"C",  &mainscreen::cgrade},
+    {"C-", &mainscreen::cgrade},
+    {"D+", &mainscreen::dgrade},
+    {"D",  &mainscreen::dgrade},
+    {"D-", &mainscreen::dgrade},
+    {"F",  &mainscreen::fgrade},
+});
 
 TextField* BucketOf(class mainscreen& window, std::string_view letter)
 {
-    auto const* const found = std::find_if(kLetters.begin(), kLetters.end(),
-                                           [&](Letter const& known) { return known.text == letter; });
+    auto const found = std::find_if(kLetters.begin(), kLetters.end(),
+                                    [&](Letter const& known) { return known.text == letter; });
     return found == kLetters.end() ? nullptr : &(window.*found->bucket)();
 }
 

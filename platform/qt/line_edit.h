@@ -2,6 +2,7 @@
 
 #include <QClipboard>
 #include <QLineEdit>
+#include <QPointer>
 
 #include <functional>
 
@@ -41,8 +42,21 @@ private:
     void showStart();
     void tellChange();
 
+    /// Runs one act of the user; its change of the text is told once, when the act is complete.
     template <class Act>
-    void actOfUser(Act const& act);
+    void actOfUser(Act const& act)
+    {
+        QPointer<LineEdit> const field(this);
+        ++actsUnderWay_;
+        act();
+        if (field.isNull()) {
+            return;
+        }
+        --actsUnderWay_;
+        if (actsUnderWay_ == 0) {
+            tellChange();
+        }
+    }
 
     QString lastText_; ///< what the program or the last told change left, to see whether an act changed it
     int limit_;

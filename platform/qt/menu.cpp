@@ -4,6 +4,7 @@
 #include "platform/qt/line_edit.h"
 #include "platform/qt/menu_actions.h"
 #include "platform/qt/text.h"
+#include "platform/qt/text_commands.h"
 #include "platform/qt/top_level.h"
 #include "platform/window.h"
 
@@ -14,35 +15,9 @@
 #include <QMenuBar>
 
 #include <algorithm>
-#include <array>
 #include <stdexcept>
 
 namespace {
-
-/// A command that the layer carries out itself, on the focused text field.
-struct TextCommand {
-    std::string_view item;
-    bool needsEditable;
-    void (*run)(LineEdit& field);
-};
-
-constexpr std::array kTextCommands = {
-    TextCommand{"EditCut",   true,
-                [](LineEdit& field) {
-                    field.copy();
-                    field.clearSelection();
-                }                                                                                  },
-    TextCommand{"EditCopy",  false, [](LineEdit& field) { field.copy(); }                          },
-    TextCommand{"EditPaste", true,  [](LineEdit& field) { field.pasteFrom(QClipboard::Clipboard); }},
-    TextCommand{"EditClear", true,  [](LineEdit& field) { field.clearSelection(); }                },
-};
-
-TextCommand const* FindTextCommand(std::string_view item)
-{
-    auto const* const found = std::find_if(kTextCommands.begin(), kTextCommands.end(),
-                                           [&](TextCommand const& command) { return command.item == item; });
-    return found == kTextCommands.end() ? nullptr : found;
-}
 
 LineEdit* FocusedField(TopLevel const* front)
 {

@@ -1,0 +1,45 @@
+#include "platform/qt/text_commands.h"
+
+#include "platform/qt/line_edit.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+void Copy(LineEdit& field)
+{
+    field.copy();
+}
+
+void Clear(LineEdit& field)
+{
+    field.clearSelection();
+}
+
+void Cut(LineEdit& field)
+{
+    Copy(field);
+    Clear(field);
+}
+
+void Paste(LineEdit& field)
+{
+    field.pasteFrom(QClipboard::Clipboard);
+}
+
+constexpr std::array kTextCommands = {
+    TextCommand{"EditCut",   true,  Cut  },
+    TextCommand{"EditCopy",  false, Copy },
+    TextCommand{"EditPaste", true,  Paste},
+    TextCommand{"EditClear", true,  Clear},
+};
+
+} // namespace
+
+TextCommand const* FindTextCommand(std::string_view item)
+{
+    auto const found = std::find_if(kTextCommands.begin(), kTextCommands.end(),
+                                    [&](TextCommand const& command) { return command.item == item; });
+    return found == kTextCommands.end() ? nullptr : &*found;
+}
