@@ -35,8 +35,10 @@ bool IsModifierAlone(QKeyEvent const& event)
 
 bool TypesText(QKeyEvent const& event)
 {
-    return !event.text().isEmpty() && event.text().at(0).isPrint() &&
-           !(event.modifiers() & (Qt::ControlModifier | Qt::MetaModifier));
+    // Ctrl and Alt together are AltGr, which types.
+    bool const isCommand = event.modifiers() == Qt::ControlModifier ||
+                           event.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier);
+    return !isCommand && !event.text().isEmpty() && event.text().at(0).category() != QChar::Other_Control;
 }
 
 QString KeyText(QKeyEvent const& event)
