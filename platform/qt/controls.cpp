@@ -3,8 +3,8 @@
 #include "platform/buttons.h"
 #include "platform/group_box.h"
 #include "platform/label.h"
+#include "platform/qt/button_widgets.h"
 #include "platform/qt/guard.h"
-#include "platform/qt/push_button.h"
 #include "platform/qt/text.h"
 #include "platform/qt/top_level.h"
 
@@ -172,10 +172,7 @@ void BevelButton::Apply(ControlProperties const& properties)
     button.setText(ToQt(properties.caption));
 }
 
-CheckBox::CheckBox(QWidget* parent, std::string const& name) : Control(new QCheckBox(parent), name)
-{
-    Widget().setFocusPolicy(Qt::TabFocus);
-}
+CheckBox::CheckBox(QWidget* parent, std::string const& name) : Control(new CheckBoxWidget(parent), name) {}
 
 bool CheckBox::Value() const
 {
