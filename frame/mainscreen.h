@@ -13,10 +13,13 @@
 ///
 ///   The form: controls, layout, wiring             frame/mainscreen.def, frame/mainscreen.cpp
 ///   The menu: items, handlers of windows           frame/menu.def, frame/mainscreen_menu.cpp
-///   The scale: fields, default, repair             scale/scale_fields.def, default_scale.cpp,
-///   scale_repair.cpp The scale's files, the event of opening        scale/scale_files.cpp The guard of the
-///   scale fields                  scale/edit_guard.cpp A press of Grade session/score_entry.cpp The letter
-///   and the tallies                     session/letter_grade.cpp The list of entries session/history.cpp
+///   The scale's fields and its default             scale/scale_fields.def, scale/default_scale.cpp
+///   The scale's repair                             scale/scale_repair.cpp
+///   The scale's files, the event of opening        scale/scale_files.cpp
+///   The guard of the scale fields                  scale/edit_guard.cpp
+///   A press of Grade                               session/score_entry.cpp
+///   The letter and the tallies                     session/letter_grade.cpp
+///   The list of entries                            session/history.cpp
 ///   Undo                                           session/undo.cpp
 ///   Resets, and the guard of the number of points  session/reset.cpp
 ///   Print and Export                               reports/print_report.cpp, reports/export.cpp

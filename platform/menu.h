@@ -45,6 +45,7 @@ private:
     void BringUpToDate(TopLevel const* front);
     [[nodiscard]] MenuItem* Find(std::string_view name);
 
+    std::string text_;
     std::unique_ptr<QAction> action_;
     std::unique_ptr<QMenu> menu_; ///< what the item opens; none for a command
     std::vector<std::unique_ptr<MenuItem>> children_;

@@ -59,8 +59,7 @@ bool mainscreen::_FilePrint_Action()
     page->Failed = TellUnprinted;
     if (entrycount > kMostEntries) {
         MsgBox("Gradeloom will only print the first 160 entries. If you need to print more scores than 160, "
-               "please "
-               "contact the author at " GRADELOOM_CONTACT);
+               "please contact the author at " GRADELOOM_CONTACT);
     }
     Draw(*page, "Results from Gradeloom", kLeftBlock, kHeadingLine);
     Draw(*page,

@@ -111,8 +111,7 @@ bool mainscreen::_FileOpen_Action()
 {
     if (ToInteger(CDbl(numstudents().Text())) != 0) {
         MsgBox("In order to change the current grading scale, you must first reset the data that has already "
-               "been "
-               "entered.");
+               "been entered.");
         return false;
     }
     OpenDialog dialog;

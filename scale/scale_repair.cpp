@@ -46,8 +46,7 @@ void mainscreen::gradingscaletest()
     bool const repaired = Repair(*this, numbers);
     if (repaired) {
         MsgBox("An attempt was made to fix the grading scale. You should check these modifications before "
-               "saving "
-               "the settings.");
+               "saving the settings.");
     }
     // A scale that ends below zero is not marked: a save refuses it with a notice of its own.
     bool const endsBelowZero = 0.0 > numbers.back();

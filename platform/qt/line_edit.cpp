@@ -64,6 +64,14 @@ void LineEdit::forgetTyping()
     }
 }
 
+void LineEdit::leave()
+{
+    deselect();
+    if (isReadOnly()) {
+        setCursorPosition(0);
+    }
+}
+
 void LineEdit::clearSelection()
 {
     if (!isReadOnly() && hasSelectedText()) {

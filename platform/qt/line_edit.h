@@ -21,6 +21,9 @@ public:
     /// What is typed from here on can be taken back, what was typed before no longer.
     void forgetTyping();
 
+    /// Another control of the window gains the focus: nothing stays selected here.
+    void leave();
+
     void pasteFrom(QClipboard::Mode mode);
     void clearSelection();
 

@@ -14,8 +14,8 @@ namespace {
 
 constexpr int kRowHeight = 16;
 
-/// Draws a cell's text over its full width. A number too wide for its column runs on into the free space
-/// of the next one, so that nothing is cut.
+/// Draws a cell's text over its full width. A number too wide for its column runs on into the free space of the
+/// next one, so that nothing is cut: each cell draws its own text and what runs in from the left.
 class CellPainter final : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -23,15 +23,28 @@ public:
     void paint(QPainter* painter, QStyleOptionViewItem const& option, QModelIndex const& index) const override
     {
         bool const selected = option.state.testFlag(QStyle::State_Selected);
+        painter->save();
         if (selected) {
             painter->fillRect(option.rect, option.palette.brush(QPalette::Highlight));
         }
         painter->setPen(option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
         painter->setFont(option.font);
+        painter->setClipRect(option.rect, Qt::IntersectClip);
+        drawText(*painter, option.rect, index);
+        if (index.column() > 0) {
+            QModelIndex const left = index.siblingAtColumn(index.column() - 1);
+            drawText(*painter, static_cast<QTableView const*>(option.widget)->visualRect(left), left);
+        }
+        painter->restore();
+    }
+
+private:
+    static void drawText(QPainter& painter, QRect const& place, QModelIndex const& index)
+    {
         int const alignment = index.data(Qt::TextAlignmentRole).toInt();
         bool const isRight = (alignment & Qt::AlignRight) != 0;
-        painter->drawText(option.rect.adjusted(1, 0, isRight ? -4 : 0, 0),
-                          alignment | Qt::TextDontClip | Qt::TextSingleLine, index.data().toString());
+        painter.drawText(place.adjusted(1, 0, isRight ? -4 : 0, 0),
+                         alignment | Qt::TextDontClip | Qt::TextSingleLine, index.data().toString());
     }
 };
 

@@ -56,11 +56,12 @@ QAction* MenuActionOf(QWidget const& window, QKeyEvent const& event)
 }
 
 MenuItem::MenuItem(std::string_view name, std::string_view text, std::string_view shortcut)
-    : action_(std::make_unique<QAction>())
+    : text_(text), action_(std::make_unique<QAction>())
 {
     action_->setObjectName(ToQt(name));
-    action_->setText(ToQt(text));
-    action_->setSeparator(text == "-");
+    bool const isSeparator = text == "-";
+    action_->setText(isSeparator ? QString() : ToQt(text)); // a line with a text is drawn as a heading
+    action_->setSeparator(isSeparator);
     action_->setShortcut(ToKeys(shortcut));
     action_->setAutoRepeat(false); // a key held down must not take back a whole class
     action_->setMenuRole(QAction::NoRole);
@@ -76,7 +77,7 @@ std::string MenuItem::Name() const
 
 std::string MenuItem::Text() const
 {
-    return FromQt(action_->text());
+    return text_;
 }
 
 bool MenuItem::Enabled() const
@@ -97,7 +98,7 @@ bool MenuItem::Visible() const
 void MenuItem::Visible(bool visible)
 {
     visible_ = visible;
-    action_->setVisible(visible && !action_->text().isEmpty());
+    action_->setVisible(visible && !text_.empty());
 }
 
 MenuItem& MenuItem::Append(std::unique_ptr<MenuItem> child)

@@ -2,12 +2,12 @@
 
 #include <QtGlobal>
 
-#include <cerrno>
 #include <io.h>
+#include <stdlib.h>
 
 char const* const kLineEnd = "\r\n";
 
 QString FlushToDisk(int handle)
 {
-    return _commit(handle) == 0 ? QString() : qt_error_string(errno);
+    return _commit(handle) == 0 ? QString() : qt_error_string(static_cast<int>(_doserrno));
 }

@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QStyleHints>
 
 #include <iostream>
 
@@ -68,6 +69,7 @@ void RuntimePerformInitializers()
     QApplication::setDesktopFileName(QStringLiteral(PROGRAM_NAME));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral(PROGRAM_NAME)));
     QApplication::setQuitOnLastWindowClosed(false); // Window::Close ends the process, on every platform
+    QApplication::styleHints()->setTabFocusBehavior(Qt::TabFocusAllControls);
     TopLevel::followFocus();
 }
 

@@ -9,7 +9,7 @@
 #include <QKeyEvent>
 #include <QLayout>
 
-#include <utility>
+#include <deque>
 
 namespace {
 
@@ -19,15 +19,22 @@ QPointer<QWidget>& Front()
     return front;
 }
 
-/// The field whose gain of the focus has not been told yet.
-QPointer<LineEdit>& Pending()
+/// The fields whose gain of the focus has not been told yet, in the order in which they gained it.
+std::deque<QPointer<LineEdit>>& Pending()
 {
-    static QPointer<LineEdit> pending;
+    static std::deque<QPointer<LineEdit>> pending;
     return pending;
 }
 
-/// Sees every event of the user before its receiver does. Of the mouse only the windows are looked at: when
-/// a press reaches a field, the field has the focus already and the press must be complete first.
+bool MovesFocus(QEvent const& event)
+{
+    int const key = static_cast<QKeyEvent const&>(event).key();
+    return key == Qt::Key_Tab || key == Qt::Key_Backtab;
+}
+
+/// Sees every event of the user before its receiver does. A key that moves the focus on goes first, since a box
+/// in front of it would keep the next field from selecting its text. Of the mouse only the windows are looked at:
+/// when a press reaches a field, the field has the focus already and the press must be complete first.
 class EventOrder final : public QObject {
 public:
     using QObject::QObject;
@@ -37,6 +44,10 @@ public:
         switch (event->type()) {
         case QEvent::ShortcutOverride:
         case QEvent::KeyPress:
+            if (!MovesFocus(*event)) {
+                TopLevel::tellFocus();
+            }
+            break;
         case QEvent::InputMethod:
             TopLevel::tellFocus();
             break;
@@ -47,6 +58,9 @@ public:
                 TopLevel::tellFocus();
             }
             break;
+        case QEvent::Quit: // the desktop ends the program, at a log-out for one; the windows are not asked
+            QCoreApplication::exit(0);
+            return true;
         default:
             break;
         }
@@ -69,9 +83,12 @@ void TopLevel::noteFocus(QWidget* widget)
     if (widget == focusedControl_ || !content_->isAncestorOf(widget)) {
         return;
     }
+    if (auto* const left = dynamic_cast<LineEdit*>(focusedControl_.data())) {
+        left->leave();
+    }
     focusedControl_ = widget;
-    Pending() = dynamic_cast<LineEdit*>(widget);
-    if (Pending() != nullptr) {
+    if (auto* const field = dynamic_cast<LineEdit*>(widget)) {
+        Pending().emplace_back(field);
         QMetaObject::invokeMethod(this, &TopLevel::tellFocus, Qt::QueuedConnection);
     }
     bringMenuBarUpToDate();
@@ -79,10 +96,19 @@ void TopLevel::noteFocus(QWidget* widget)
 
 void TopLevel::tellFocus()
 {
-    QPointer<LineEdit> const field = std::exchange(Pending(), nullptr);
-    if (field != nullptr && field->gotFocus) {
-        Guarded(field->gotFocus);
+    static bool isTelling = false; // while one field is told, its message box may be up
+    if (isTelling) {
+        return;
     }
+    isTelling = true;
+    while (!Pending().empty()) {
+        QPointer<LineEdit> const field = Pending().front();
+        Pending().pop_front();
+        if (field != nullptr && field->gotFocus) {
+            Guarded(field->gotFocus);
+        }
+    }
+    isTelling = false;
 }
 
 TopLevel* TopLevel::front()

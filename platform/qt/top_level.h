@@ -23,7 +23,7 @@ public:
 
     /// The window's focus is now here; the same control again is no news.
     void noteFocus(QWidget* widget);
-    /// Tells a gain of the focus that waits to be told.
+    /// Tells the gains of the focus that wait to be told.
     static void tellFocus();
 
     /// The window that has or last had the desktop's attention; null if there is none.
