@@ -1,0 +1,81 @@
+# shellcheck shell=bash disable=SC2034,SC2154
+# What ./run, ./test and .ci/run share: messages, packages, configuring, building.
+# The caller sets `me`, the name in front of its messages, and stands at the top of the repository.
+
+build_packages=(build-essential cmake ninja-build qt6-base-dev fonts-dejavu-core)
+pdf_packages=(poppler-utils) # the tests and the tour read printed pages back
+tour_packages=(xvfb openbox xdotool xclip x11-utils imagemagick "${pdf_packages[@]}")
+check_packages=(clang clang-format clang-tidy)
+wayland_packages=(qt6-wayland)
+brew_formulas=(cmake ninja qt poppler)
+
+say() { printf '%s: %s\n' "$me" "$*"; }
+
+fail() {
+    printf '%s: %s\n' "$me" "$*" >&2
+    exit 1
+}
+
+# The last line of each command, whichever way it ends.
+close_with() {
+    local status=$?
+    if ((status == 0)); then say "$closing"; else say "FAILED with status $status"; fi
+}
+
+on_mac() { [[ $(uname -s) == Darwin ]]; }
+
+has_display() { on_mac || [[ -n ${DISPLAY:-}${WAYLAND_DISPLAY:-} ]]; }
+
+installed() { [[ $(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null) == installed ]]; }
+
+# Installs those of the named packages that are missing. Only apt-get runs with root's rights.
+need_packages() {
+    local package missing=() as_root=()
+    if ! command -v dpkg-query apt-get >/dev/null; then
+        say "no apt here: taking these as installed: $*"
+        return
+    fi
+    for package; do installed "$package" || missing+=("$package"); done
+    if ((${#missing[@]} == 0)); then
+        say "nothing to install of: $*"
+        return
+    fi
+    if ((EUID != 0)); then
+        command -v sudo >/dev/null ||
+            fail "these packages are missing, and neither root's rights nor sudo are here to install them: ${missing[*]}"
+        as_root=(sudo)
+    fi
+    say "installing ${missing[*]}"
+    apt_get() {
+        ${as_root[@]+"${as_root[@]}"} env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300 \
+            -o Acquire::Retries=3 -o Dpkg::Use-Pty=0 "$@" </dev/null
+    }
+    apt_get update
+    apt_get install -y --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+need_formulas() {
+    local formula missing=()
+    command -v brew >/dev/null || fail "Homebrew is needed to install ${brew_formulas[*]}"
+    for formula in "${brew_formulas[@]}"; do
+        brew list --versions "$formula" >/dev/null || missing+=("$formula")
+    done
+    ((${#missing[@]} == 0)) || brew install "${missing[@]}"
+    CMAKE_PREFIX_PATH=$(brew --prefix qt)
+    export CMAKE_PREFIX_PATH
+}
+
+# The named packages on Debian; all formulas on macOS.
+set_up() {
+    if on_mac; then need_formulas; else need_packages "$@"; fi
+}
+
+# build PRESET [TARGET...]: configures and builds one of the presets.
+build() {
+    local preset=$1 targets=()
+    shift
+    (($# == 0)) || targets=(--target "$@")
+    say "building preset $preset${*:+: $*}"
+    cmake --preset "$preset"
+    cmake --build --preset "$preset" ${targets[@]+"${targets[@]}"}
+}
