@@ -1,78 +1,50 @@
 #include "tests/harness.h"
 
-#include "platform/doors.h"
-#include "platform/message_box.h"
 #include "platform/qt/line_edit.h"
 #include "platform/qt/open_windows.h"
-#include "platform/qt/text.h"
 #include "platform/runtime.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QCheckBox>
-#include <QMainWindow>
+#include <QClipboard>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPrinter>
 #include <QStandardPaths>
-#include <QTableView>
-#include <QTemporaryDir>
 
 namespace {
 
-QAction* FindAction(QList<QAction*> const& actions, QString const& name)
-{
-    for (QAction* const action : actions) {
-        if (action->objectName() == name) {
-            return action;
-        }
-        QAction* const inside = action->menu() ? FindAction(action->menu()->actions(), name) : nullptr;
-        if (inside != nullptr) {
-            return inside;
-        }
-    }
-    return nullptr;
-}
-
 QString Rows(QAbstractItemModel const& model)
 {
-    QStringList rows;
-    for (int row = 0; row < model.rowCount(); ++row) {
-        QStringList cells;
-        for (int column = 0; column < model.columnCount(); ++column) {
-            cells += model.index(row, column).data().toString();
-        }
-        rows += cells.join(u',');
+    QString rows;
+    for (int i = 0; i < model.rowCount() * model.columnCount(); ++i) {
+        int const column = i % model.columnCount();
+        rows += column > 0 ? u"," : i > 0 ? u";" : u"";
+        rows += model.index(i / model.columnCount(), column).data().toString();
     }
-    return rows.join(u';');
+    return rows;
 }
 
 } // namespace
 
-Desk::Desk(char const* noticeAtStart)
+Desk::Desk(std::vector<Box> boxes) : expected_(std::move(boxes))
 {
-    if (noticeAtStart != nullptr) {
-        expect(noticeAtStart);
-    }
     PlatformDoors().messageBox = [this](MessageBoxRequest const& request) {
-        if (expected_.empty() || request.text.rfind(expected_.front().text, 0) != 0) {
+        if (expected_.empty() || request.text.rfind(expected_.front().text, 0) != 0 ||
+            request.question != (expected_.front().answer != 0)) {
             QTest::qFail(("unexpected box: " + request.text).c_str(), __FILE__, __LINE__);
             return kNo;
         }
-        Box const box = expected_.front();
+        int const answer = expected_.front().answer;
         expected_.erase(expected_.begin());
-        if (request.question != (box.answer != 0)) {
-            QTest::qFail("a notice and a question are not the same", __FILE__, __LINE__);
-        }
-        return box.answer;
+        return answer;
     };
     PlatformDoors().fileDialog = [this](FileDialogRequest const& request) {
         asked.push_back(request);
-        return chosen.empty() ? std::nullopt : std::optional(chosen);
+        return chosen.isEmpty() ? std::nullopt : std::optional(chosen.toStdString());
     };
     PlatformDoors().printDialog = [this](QPrinter& printer) {
-        ++printDialogs;
-        printer.setOutputFileName(ToQt(printTo));
-        return !printTo.empty();
+        asked.emplace_back();
+        printer.setOutputFileName(chosen);
+        return !chosen.isEmpty();
     };
     PlatformDoors().browser = [this](std::string const& address) { browsed = address; };
     ::mainscreen();
@@ -88,11 +60,6 @@ Desk::~Desk()
     }
 }
 
-void Desk::expect(std::string const& text, int answer)
-{
-    expected_.push_back({text, answer});
-}
-
 QMainWindow* Desk::window(char const* name) const
 {
     for (QWidget* const widget : QApplication::topLevelWidgets()) {
@@ -103,95 +70,88 @@ QMainWindow* Desk::window(char const* name) const
     return nullptr;
 }
 
-QWidget* Desk::widget(char const* name, char const* window) const
+QList<QAction*> Desk::menus() const
 {
-    return this->window(window)->findChild<QWidget*>(QLatin1String(name));
-}
-
-void Desk::activate(char const* window) const
-{
-    this->window(window)->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(this->window(window)));
-}
-
-void Desk::type(char const* field, char const* text, char const* window) const
-{
-    auto* const edit = qobject_cast<QLineEdit*>(widget(field, window));
-    edit->setFocus();
-    edit->selectAll();
-    QTest::keyClick(edit, Qt::Key_Delete);
-    QTest::keyClicks(edit, QLatin1String(text));
-}
-
-void Desk::write(char const* field, char const* text) const
-{
-    static_cast<LineEdit*>(widget(field))->writeByProgram(QLatin1String(text));
-}
-
-void Desk::writeAll(char const* fields) const
-{
-    for (QByteArray const& field : QByteArray(fields).split(' ')) {
-        QList<QByteArray> const parts = field.split('=');
-        write(parts[0], parts[1]);
+    QList<QAction*> all;
+    for (QAction* const menu :
+         static_cast<QMainWindow*>(QApplication::activeWindow())->menuBar()->actions()) {
+        all += menu;
+        all += menu->menu() != nullptr ? menu->menu()->actions() : QList<QAction*>();
     }
+    return all;
 }
 
-void Desk::useCorrect(bool checked) const
-{
-    static_cast<QCheckBox*>(widget("checkcorrect"))->setChecked(checked);
-}
-
-QAction* Desk::item(char const* name) const
-{
-    auto const* const front = qobject_cast<QMainWindow*>(QApplication::activeWindow());
-    return FindAction(front->menuBar()->actions(), QLatin1String(name));
-}
-
-void Desk::press(char const* button) const
-{
-    qobject_cast<QAbstractButton*>(widget(button))->click();
-}
-
-void Desk::choose(char const* item) const
-{
-    this->item(item)->trigger();
-}
-
-QString Desk::show(char const* names, char const* window) const
+QString Desk::show(QByteArray const& names, char const* in) const
 {
     QStringList shown;
-    for (QString const& name : QString::fromLatin1(names).split(u' ')) {
-        QWidget const* const control = this->window(window)->findChild<QWidget*>(name);
-        auto const* const list = qobject_cast<QTableView const*>(control);
-        shown += list != nullptr ? Rows(*list->model()) : control->property("text").toString();
+    for (QByteArray const& name : names.split(' ')) {
+        auto const* const list = widget<QTableView>(name, in);
+        shown += list != nullptr ? Rows(*list->model()) : widget(name, in)->property("text").toString();
     }
     return shown.join(u'|');
 }
 
-void Desk::grade(char const* score, char const* field) const
+void Desk::activate(char const* name) const
 {
-    type(field, score);
-    QTest::keyClick(widget(field), Qt::Key_Return);
+    window(name)->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window(name)));
+}
+
+void Desk::choose(char const* item) const
+{
+    QList<QAction*> const all = menus();
+    auto const isMeant = [item](QAction const* action) {
+        return action->objectName() == QLatin1String(item);
+    };
+    (*std::find_if(all.begin(), all.end(), isMeant))->trigger();
+}
+
+void Desk::paste(QByteArray const& text) const
+{
+    QGuiApplication::clipboard()->setText(text);
+    choose("EditPaste");
+}
+
+void Desk::press(char const* name, char const* in) const
+{
+    QTest::mouseClick(widget(name, in), Qt::LeftButton);
+}
+
+void Desk::type(char const* field, QByteArray const& text, char const* in) const
+{
+    widget(field, in)->setFocus();
+    widget<QLineEdit>(field, in)->selectAll();
+    QTest::keyClick(widget(field, in), Qt::Key_Delete);
+    QTest::keyClicks(widget(field, in), QString::fromLatin1(text).replace(u'\n', u'\r'));
 }
 
 void Desk::gradeAll(char const* points, std::vector<char const*> const& missed) const
 {
     type("total", points);
     for (char const* const score : missed) {
-        grade(score);
+        type("missed", score + "\n"_ba);
     }
+}
+
+void Desk::write(QByteArray const& fields) const
+{
+    for (QByteArray const& field : fields.split(' ')) {
+        QList<QByteArray> const parts = field.split('=');
+        static_cast<LineEdit*>(widget(parts[0]))->writeByProgram(parts[1]);
+    }
+}
+
+void Compose(QLineEdit* field, char const* commit, char const* preedit)
+{
+    QInputMethodEvent event(QLatin1String(preedit), {});
+    event.setCommitString(QLatin1String(commit));
+    QCoreApplication::sendEvent(field, &event);
 }
 
 QByteArray Content(QString const& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void Put(QString const& path, QByteArray const& bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
 }
 
 int RunTests(QObject& tests, int count, char** arguments)

@@ -1,78 +1,76 @@
 #pragma once
 
 #include "frame/mainscreen.h"
-#include "platform/doors.h"
+#include "platform/message_box.h"
+#include "platform/qt/desktop_doors.h"
 
+#include <QApplication>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QTableView>
+#include <QTemporaryDir>
 #include <QTest>
 
-#include <string>
-#include <vector>
+using namespace Qt::StringLiterals;
 
-class QAction;
-class QWidget;
+inline constexpr char const* kNoPoints = "You must enter a positive value for the Number of Points.";
+inline constexpr char const* kTooMany = "The number missed should not exceed the total number of points.";
+inline constexpr char const* kRepaired = "An attempt was made to fix the grading scale.";
+inline constexpr char const* kTallies = "agrade bgrade cgrade dgrade fgrade";
+inline constexpr char const* kHistory = "ListBox1 ListBox2 ListBox3 ListBox4 ListBox5";
 
-/// A main window as it stands after a start, with every way out of the process scripted: a message box must
-/// have been expected, else the test fails and the box counts as answered with No. Boxes come in the expected
-/// order.
+/// A main window as it stands after a start, with every way out of the process scripted. A message box that
+/// was not expected fails the test and is answered with No; one that did not come fails it too.
 class Desk {
+    Q_DISABLE_COPY(Desk)
+
 public:
-    /// The start itself may bring a notice.
-    explicit Desk(char const* noticeAtStart = nullptr);
-    ~Desk();
-    Desk(Desk const&) = delete;
-    Desk& operator=(Desk const&) = delete;
-
-    /// The next box starts with this text and is answered so.
-    void expect(std::string const& text, int answer = 0);
-    /// All expected boxes have come.
-    [[nodiscard]] bool allSeen() const { return expected_.empty(); }
-
-    [[nodiscard]] class mainscreen& form() const { return ::mainscreen(); }
-    /// The widget of a control, of the main window or another one.
-    [[nodiscard]] QWidget* widget(char const* name, char const* window = "mainscreen") const;
-    [[nodiscard]] class QMainWindow* window(char const* name = "mainscreen") const;
-
-    /// Grades a score as the teacher does: types into the field, presses Return.
-    void grade(char const* score, char const* field = "missed") const;
-    /// Replaces a field's text by typing, key by key.
-    void type(char const* field, char const* text, char const* window = "mainscreen") const;
-    /// Sets the number of points and grades these numbers missed.
-    void gradeAll(char const* points, std::vector<char const*> const& missed) const;
-    /// Writes a field's text as the program does.
-    void write(char const* field, char const* text) const;
-    /// Writes several fields: "amin=80 amax=97".
-    void writeAll(char const* fields) const;
-    /// Checks the box that makes the number correct count, or takes its check away.
-    void useCorrect(bool checked) const;
-    /// Clicks a button of the main window.
-    void press(char const* button) const;
-    /// Chooses a menu item of the window in front.
-    void choose(char const* item) const;
-    [[nodiscard]] QAction* item(char const* name) const;
-    /// What these controls hold, with "|" between them; rows of a list end with ";", cells with ",".
-    [[nodiscard]] QString show(char const* names, char const* window = "mainscreen") const;
-    /// Brings the window to the front and waits until it is active.
-    void activate(char const* window = "mainscreen") const;
-
-    std::string browsed;                  ///< the last address that was to be opened
-    std::string chosen;                   ///< what the file dialogs choose; empty cancels them
-    std::vector<FileDialogRequest> asked; ///< the file dialogs that have come
-    std::string printTo;                  ///< the PDF file that the print dialog chooses; empty cancels it
-    int printDialogs = 0;
-
-private:
+    /// A box starts with this text and is answered so; a notice has no answer.
     struct Box {
         std::string text;
-        int answer;
+        int answer = 0;
     };
+
+    explicit Desk(std::vector<Box> boxes = {});
+    ~Desk();
+
+    void expect(std::string const& text, int answer = 0) { expected_.push_back({text, answer}); }
+    [[nodiscard]] bool allSeen() const { return expected_.empty(); }
+    [[nodiscard]] class mainscreen& form() const { return ::mainscreen(); }
+    [[nodiscard]] QMainWindow* window(char const* name = "mainscreen") const;
+    template <class Type = QWidget>
+    [[nodiscard]] Type* widget(char const* name, char const* in = "mainscreen") const
+    {
+        return window(in)->findChild<Type*>(QLatin1String(name));
+    }
+    /// What these controls hold, with "|" between them; rows of a list end with ";", cells with ",".
+    [[nodiscard]] QString show(QByteArray const& names, char const* in = "mainscreen") const;
+    /// The menus of the window in front, each with its items behind it.
+    [[nodiscard]] QList<QAction*> menus() const;
+    [[nodiscard]] QString at(char const* name) const { return folder_.filePath(QLatin1String(name)); }
+
+    /// Brings the window to the front and waits until it is active.
+    void activate(char const* name = "mainscreen") const;
+    void choose(char const* item) const;
+    void paste(QByteArray const& text) const;
+    void press(char const* name, char const* in = "mainscreen") const;
+    /// Replaces a field's text by typing, key by key; a line end is a press of Return.
+    void type(char const* field, QByteArray const& text, char const* in = "mainscreen") const;
+    void gradeAll(char const* points, std::vector<char const*> const& missed) const;
+    /// Writes texts as the program does: "amin=80 amax=97".
+    void write(QByteArray const& fields) const;
+
+    std::string browsed;                  ///< the last address that was to be opened
+    QString chosen;                       ///< the file that the dialogs choose; empty cancels them
+    std::vector<FileDialogRequest> asked; ///< the dialogs that have come; of a print dialog all is empty
+
+private:
     std::vector<Box> expected_;
+    QTemporaryDir folder_;
 };
 
-/// The bytes of a file; empty if it can't be read.
+void Compose(QLineEdit* field, char const* commit, char const* preedit = "");
 QByteArray Content(QString const& path);
-void Put(QString const& path, QByteArray const& bytes);
-
-/// Main function of a test program: the program's own start, then the tests.
 int RunTests(QObject& tests, int count, char** arguments);
 
 #define GRADELOOM_TEST(Class)                                                                                \

@@ -1,11 +1,7 @@
 #include "frame/conversions.h"
 #include "tests/harness.h"
 
-#include <cmath>
 #include <limits>
-#include <locale>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -19,17 +15,14 @@ std::string const kManyZeros(400, '0');
 
 // clang-format off
 std::pair<std::string, double> const kTexts[] = {
-    // a number may stand in front of anything, and behind blanks and tabs
+    // a number may stand in front of anything, and behind blanks; its sign and digits stand together
     {"", 0.0}, {"abc", 0.0}, {"97.5", 97.5}, {" \t-5", -5.0}, {"\n5", 0.0}, {"12 of 30", 12.0}, {"1.2.3", 1.2},
-    // the sign stands directly before it, digits on one side of the point suffice
     {"+5", 5.0}, {"- 5", 0.0}, {"--5", 0.0}, {".5", 0.5}, {"5.", 5.0}, {".", 0.0}, {".e5", 0.0}, {"1 e3", 1.0},
-    // commas in front of full groups of three part thousands
+    // commas in front of full groups of three part thousands, others are decimal commas
     {"1,000", 1000.0}, {"1,000.5", 1000.5}, {"1,000,5", 1000.0}, {"1,000,000", 1e6}, {"1234,567", 1234.567},
-    // others are decimal commas
     {"1,0000", 1.0}, {"0,125", 0.125}, {"7,5", 7.5}, {"12,5,3", 12.5}, {",5", 0.5}, {"5,", 5.0}, {"1.5,5", 1.5},
-    // no other notation is read
     {"0x10", 0.0}, {"inf", 0.0}, {"nan", 0.0}, {"1e", 1.0}, {"1e+", 1.0},
-    // neither length nor size is a fault; 2^53 + 1 is a tie
+    // there is no other notation; neither length nor size is a fault; 2^53 + 1 is a tie
     {kManyNines, kLargest}, {"-" + kManyNines, -kLargest}, {kManyZeros + "7", 7.0}, {"0." + kManyZeros + "7", 0.0},
     {"9007199254740993", 9007199254740992.0},
 };
@@ -44,9 +37,8 @@ struct { std::string text; double val, cdbl; } const kExponents[] = {
 std::pair<double, char const*> const kPlain[] = {
     {0.0, "0"}, {-0.0, "0"}, {97.0, "97"}, {-12.5, "-12.5"}, {1e15, "1000000000000000"}, {200.0 / 3.0, "66.66667"},
     {99.99999, "99.99999"}, {99.999999, "100"}, {0.00001, "0.00001"}, {-1e-10, "-0.0000000001"},
-    // ties of seven digits go to the even one
+    // ties of seven digits go to the even one; never fewer digits than stand before the point
     {100000.25, "100000.2"}, {100000.75, "100000.8"}, {1000000.5, "1000000"}, {1000001.5, "1000002"},
-    // never fewer digits than stand before the point
     {9999999.5, "10000000"}, {12345678.9, "12345679"}, {Limits::quiet_NaN(), "NaN"},
 };
 
@@ -55,21 +47,8 @@ struct { double number; char const* two; char const* three; } const kCut[] = {
     {99.9999999, "99.99", "99.999"},  {-0.001, "0", "-0.001"},      {-0.0, "0", "0"},          {1e6, "1000000", "1000000"},
     {19600.0 / 219.0, "89.49", "89.497"}, // rounded it would be 89.5, a grade higher
     {28.999999999999996, "29", "29"},     // 29 at 15 digits, what follows is noise
-    {Limits::quiet_NaN(), "NaN", "NaN"},
 };
 // clang-format on
-
-double Percent(int correct, int points)
-{
-    return static_cast<double>(correct) / static_cast<double>(points) * 100.0;
-}
-
-/// A user's settings under which streams write 1.000,5.
-struct CommaSettings final : std::numpunct<char> {
-    char do_decimal_point() const override { return ','; }
-    char do_thousands_sep() const override { return '.'; }
-    std::string do_grouping() const override { return "\3"; }
-};
 
 } // namespace
 
@@ -88,7 +67,7 @@ private slots:
         }
     }
 
-    void writtenTextIsPlainAndShort()
+    void writtenTextIsPlainAndShortAndAPatternCutsIt()
     {
         for (auto const& [number, text] : kPlain) {
             QCOMPARE(QString::fromStdString(Str(number)), QLatin1String(text));
@@ -96,10 +75,6 @@ private slots:
         QVERIFY(Str(kLargest).size() == 309 && CDbl(Str(5e-324)) == 5e-324);
         QVERIFY(CDbl(Str(Limits::infinity())) == kLargest && CDbl(Str(-Limits::infinity())) == -kLargest);
         QVERIFY(Str(Integer{0}) == "0" && Str(kLowest) == "-9223372036854775808");
-    }
-
-    void formatCutsAtThePatternButNotInTheNoise()
-    {
         for (auto const& [number, two, three] : kCut) {
             QCOMPARE(QString::fromStdString(Format(number, "#.##")), QLatin1String(two));
             QCOMPARE(QString::fromStdString(Format(number, "#.###")), QLatin1String(three));
@@ -117,35 +92,19 @@ private slots:
         QVERIFY(Sum(kLowest, -1) == kLowest && Sum(kLowest + 1, -1) == kLowest);
     }
 
-    void theUsersDecimalCommaChangesNothing()
-    {
-        std::locale const before = std::locale::global(std::locale(std::locale(), new CommaSettings));
-        setlocale(LC_ALL, "de_DE.UTF-8"); // where there is none, the streams' settings alone are on trial
-        bool const reads = CDbl("1234.5e1") == 12345.0 && Val("1,000.5") == 1000.5;
-        bool const writes =
-            Str(1234.5) == "1234.5" && Str(1e6) == "1000000" && Format(1234.567, "#.##") == "1234.56";
-        setlocale(LC_ALL, "C");
-        std::locale::global(before);
-        QVERIFY(reads && writes);
-    }
-
     void everyScoreComesBackAsShownAndRoundsAlikeAndRightInBothModes()
     {
         for (int points = 1; points <= 1000; ++points) {
             for (int correct = 0; correct <= points; ++correct) {
-                double const percent = Percent(correct, points);
-                bool const isNearHalf = std::fabs(percent - std::floor(percent) - 0.5) < 0.02;
-                if (points > 200 && !isNearHalf) {
-                    continue; // both texts lie within 0.01 of the number, so on its side of the half
+                if (points > 200 && std::abs(100 * correct % points * 2 - points) > points / 20) {
+                    continue; // both texts lie near the number and so on its side of the half
                 }
+                double const percent = static_cast<double>(correct) / points * 100.0;
                 std::string const plain = Str(percent);
                 std::string const cut = Format(percent, "#.##");
-                int const exact = (200 * correct + points) / (2 * points); // 100 c / n plus a half, cut
-                QVERIFY2(std::fabs(CDbl(plain) - percent) < 5.1e-6 && Str(Val(plain)) == plain,
-                         plain.c_str());
-                QVERIFY2(std::fabs(CDbl(cut) - percent) < 0.01 && Format(Val(cut), "#.##") == cut,
-                         cut.c_str());
+                int const exact = (200 * correct + points) / (2 * points);
                 QVERIFY2(Round(CDbl(plain)) == exact && Round(CDbl(cut)) == exact, plain.c_str());
+                QVERIFY2(Str(Val(plain)) == plain && Format(Val(cut), "#.##") == cut, plain.c_str());
             }
         }
     }
