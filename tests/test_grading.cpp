@@ -39,7 +39,6 @@ struct {
     {"amin=98",      "30",  "31", {{kQuestion, kYes}, {kRepaired}, {kTooMany}},  "96||"},
     {"amin=98",      "",    "3",  {{kQuestion, kNo}},                            "98||3"},
     {"dminusmin=63", "30",  "3",  {{kQuestion, kYes}, {kRepaired}},              "61|1|"},
-    // equal bounds and gaps are in order
     {"amin=97",      "30",  "3",  {{kRepaired}},                                 "97|1|"},
     {"aminusmax=91", "30",  "3",  {{kRepaired}},                                 "92|1|"},
     // the top goes to 100 in silence, but the field below is compared with what it was
