@@ -19,6 +19,12 @@ inline constexpr char const* kRepaired = "An attempt was made to fix the grading
 inline constexpr char const* kTallies = "agrade bgrade cgrade dgrade fgrade";
 inline constexpr char const* kHistory = "ListBox1 ListBox2 ListBox3 ListBox4 ListBox5";
 
+/// The fields of the scale in their order, as Desk::show takes them.
+inline constexpr char const* kFields = "aplusmax aplusmin amax amin aminusmax aminusmin "
+                                       "bplusmax bplusmin bmax bmin bminusmax bminusmin "
+                                       "cplusmax cplusmin cmax cmin cminusmax cminusmin "
+                                       "dplusmax dplusmin dmax dmin dminusmax dminusmin";
+
 /// A main window as it stands after a start, with every way out of the process scripted. A message box that
 /// was not expected fails the test and is answered with No; one that did not come fails it too.
 class Desk {
