@@ -96,15 +96,13 @@ private slots:
     {
         for (int points = 1; points <= 1000; ++points) {
             for (int correct = 0; correct <= points; ++correct) {
-                if (points > 200 && std::abs(100 * correct % points * 2 - points) > points / 20) {
-                    continue; // both texts lie near the number and so on its side of the half
-                }
                 double const percent = static_cast<double>(correct) / points * 100.0;
                 std::string const plain = Str(percent);
                 std::string const cut = Format(percent, "#.##");
                 int const exact = (200 * correct + points) / (2 * points);
                 QVERIFY2(Round(CDbl(plain)) == exact && Round(CDbl(cut)) == exact, plain.c_str());
-                QVERIFY2(Str(Val(plain)) == plain && Format(Val(cut), "#.##") == cut, plain.c_str());
+                QVERIFY2(points > 200 || (Str(Val(plain)) == plain && Format(Val(cut), "#.##") == cut),
+                         plain.c_str());
             }
         }
     }
