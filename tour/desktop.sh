@@ -19,11 +19,11 @@ fail() {
 
 # await WHAT CONDITION...: nothing here waits for a time; a condition that does not come is a failure.
 await() {
-    local what=$1 end=$((SECONDS + 10))
+    local what=$1 end=$((SECONDS + 20))
     shift
     until "$@"; do
         [[ -z $program_pid ]] || kill -0 "$program_pid" 2>/dev/null || fail "the program ended before: $what"
-        ((SECONDS < end)) || fail "this did not come within ten seconds: $what"
+        ((SECONDS < end)) || fail "this did not come within twenty seconds: $what"
         ((SECONDS < 60)) || fail "the tour takes longer than a minute; still missing: $what"
         sleep 0.02
     done
