@@ -1,9 +1,8 @@
 # shellcheck shell=bash disable=SC2034,SC2154
 # A desktop of the tour's own: a display, a window manager, and an empty home that is deleted at the end.
 
-processes=()
+declare -A started=() # the numbers of the processes "display", "window manager" and "program"
 home=
-program_pid=
 
 step() {
     now="$theme: $*"
@@ -13,8 +12,14 @@ step() {
 fail() {
     echo "tour: FAILED at \"$now\": $*" >&2
     [[ -z ${DISPLAY:-} ]] || import -window root build/tour/failure.png || true
-    [[ ! -s build/tour/program.log ]] || tail -n 20 build/tour/program.log >&2
+    tail -n 20 build/tour/*.log >&2
     exit 1
+}
+
+nothing_ended() {
+    for ended in "${!started[@]}"; do
+        kill -0 "${started[$ended]}" 2>/dev/null || return 1
+    done
 }
 
 # await WHAT CONDITION...: nothing here waits for a time; a condition that does not come is a failure.
@@ -22,24 +27,23 @@ await() {
     local what=$1 end=$((SECONDS + 20))
     shift
     until "$@"; do
-        [[ -z $program_pid ]] || kill -0 "$program_pid" 2>/dev/null || fail "the program ended before: $what"
+        nothing_ended || fail "the $ended ended before: $what"
         ((SECONDS < end)) || fail "this did not come within twenty seconds: $what"
         ((SECONDS < 60)) || fail "the tour takes longer than a minute; still missing: $what"
         sleep 0.02
     done
 }
 
-# The last started process ends first.
 leave_desktop() {
-    local i
-    for ((i = ${#processes[@]} - 1; i >= 0; i--)); do
-        kill "${processes[i]}" 2>/dev/null || true
-        wait "${processes[i]}" 2>/dev/null || true
+    local process
+    for process in program "window manager" display; do
+        [[ -n ${started[$process]:-} ]] || continue
+        kill "${started[$process]}" 2>/dev/null || true
+        wait "${started[$process]}" 2>/dev/null || true
     done
-    processes=()
+    started=()
     [[ -z $home ]] || rm -rf "$home"
     home=
-    program_pid=
     unset DISPLAY
 }
 
@@ -65,22 +69,23 @@ make_home() {
 
 has_window_manager() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
 
+# Without -noreset the server starts anew when its last client leaves, and that can be the one that only looks
+# whether the window manager is there yet.
 start_display() {
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$home/display" >"$home/xvfb.log" 2>&1 &
-    processes+=($!)
+    Xvfb -displayfd 3 -noreset -screen 0 1280x1024x24 -nolisten tcp 3>"$home/display" >build/tour/display.log 2>&1 &
+    started[display]=$!
     await "a display" test -s "$home/display"
     DISPLAY=:$(<"$home/display")
     export DISPLAY
-    on_desktop openbox --sm-disable >"$home/openbox.log" 2>&1 &
-    processes+=($!)
+    on_desktop openbox --sm-disable >build/tour/window-manager.log 2>&1 &
+    started["window manager"]=$!
     # Without a window manager every key would be lost in silence.
     await "a window manager" has_window_manager
 }
 
 start_program() {
     on_desktop "$program" >build/tour/program.log 2>&1 </dev/null &
-    program_pid=$!
-    processes+=("$program_pid")
+    started[program]=$!
     await "the window Gradeloom X" window_in_front "Gradeloom X"
     main=$front
     measure_menu_bar
@@ -90,9 +95,9 @@ has_ended() { ! kill -0 "$1" 2>/dev/null; }
 
 # Quits the program as a user does.
 quit_program() {
-    local pid=$program_pid status=0
+    local pid=${started[program]} status=0
     xdotool key ctrl+q
-    program_pid= # its end is no failure any more
+    unset 'started[program]' # its end is no failure any more
     await "the program's end" has_ended "$pid"
     wait "$pid" || status=$?
     same "the program's exit status" 0 "$status"

@@ -39,7 +39,7 @@ is_front() { in_front && ((front == $1)); }
 # A message box is a window of the program's that has no title of its own.
 box_in_front() {
     in_front && ((front != main)) && title_of_front && [[ $title == "" || $title == gradeloom ]] &&
-        [[ $(xdotool getwindowpid "$front" 2>/dev/null) == "$program_pid" ]]
+        [[ $(xdotool getwindowpid "$front" 2>/dev/null) == "${started[program]}" ]]
 }
 
 await_box() { # WHAT
@@ -91,7 +91,7 @@ click_number_correct() { click 20 121; }
 click_save_scale() { click 596 295; }
 click_save_settings() { click 596 370; }
 
-windows_shown() { xdotool search --onlyvisible --pid "$program_pid" 2>/dev/null | wc -l; }
+windows_shown() { xdotool search --onlyvisible --pid "${started[program]}" 2>/dev/null | wc -l; }
 
 more_windows_than() { (($(windows_shown) > $1)); }
 
