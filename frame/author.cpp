@@ -14,11 +14,10 @@ class Author& Author()
 
 Author::Author() : Window("Author")
 {
-    Build({.layout = [this] { Layout(); },
-           .createControls = [this] { CreateControls(); },
-           .addMenuHandlers = [this] { AddMenuHandlers(); },
-           .open = {},
-           .enableMenuItems = [this] { Event_EnableMenuItems(); }});
+    Layout();
+    CreateControls();
+    AddMenuHandlers();
+    Show();
 }
 
 void Author::Layout()
@@ -73,6 +72,7 @@ bool Author::PushButton1_MouseDown(PushButton& /*sender*/, int /*x*/, int /*y*/)
 void Author::AddMenuHandlers()
 {
     _AddMenuHandler(*this, "FileClose", [this] { return _FileClose_Action(); });
+    _SetEnableMenuItems(*this, [this] { Event_EnableMenuItems(); });
 }
 
 void Author::Event_EnableMenuItems()

@@ -24,8 +24,11 @@ class mainscreen& mainscreen()
 
 mainscreen::mainscreen() : Window("mainscreen")
 {
-    Build({[this] { Layout(); }, [this] { CreateControls(); }, [this] { AddMenuHandlers(); },
-           [this] { Event_Open(); }, [this] { Event_EnableMenuItems(); }});
+    Layout();
+    CreateControls();
+    AddMenuHandlers();
+    Show();
+    Event_Open();
 }
 
 void mainscreen::Layout()

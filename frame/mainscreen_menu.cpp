@@ -24,6 +24,7 @@ void mainscreen::AddMenuHandlers()
     _AddMenuHandler(*this, "FileExport", [this] { return _FileExport_Action(); });
     _AddMenuHandler(*this, "FileOpen", [this] { return _FileOpen_Action(); });
     _AddMenuHandler(*this, "filepresent", [this] { return _filepresent_Action(); });
+    _SetEnableMenuItems(*this, [this] { Event_EnableMenuItems(); });
 }
 
 void mainscreen::Event_EnableMenuItems()

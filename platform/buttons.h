@@ -17,7 +17,6 @@ public:
     /// Makes this the button that Return and Enter press, whichever control of the window has the focus.
     void Default(bool isDefault);
 
-private:
     void Apply(ControlProperties const& properties) override;
 };
 
@@ -28,7 +27,6 @@ public:
 
     std::function<void()> Action;
 
-private:
     void Apply(ControlProperties const& properties) override;
 };
 
@@ -39,6 +37,5 @@ public:
 
     [[nodiscard]] bool Value() const;
 
-private:
     void Apply(ControlProperties const& properties) override;
 };

@@ -10,7 +10,7 @@
 class QWidget;
 
 /// What a form states of a control. Places are device-independent pixels from the top left of the window's
-/// content, also for a control inside a group box. What a kind of control has no use for is passed over.
+/// content, also for a control inside a group box. Each kind of control ignores what it has no use for.
 struct ControlProperties {
     std::string_view caption = {};        ///< text of a label, a button, a check box or a group box
     std::string_view accessibleName = {}; ///< what an input without a caption of its own is called
@@ -27,8 +27,8 @@ struct ControlProperties {
     std::optional<Color> background = {}; ///< text fields only; without one a field is white
 };
 
-/// One control of a window. It owns the widget that stands for it on the screen and ends it, so no event
-/// comes for a control that is gone.
+/// One control of a window. It owns the widget that the user sees and deletes it, so no event comes for a
+/// control that is gone.
 class Control {
 public:
     virtual ~Control();
@@ -38,17 +38,21 @@ public:
     /// The text that appears while the pointer rests on the control.
     void Tooltip(std::string_view text);
 
-protected:
-    /// Takes the widget over.
-    Control(QWidget* widget, std::string const& name);
-
-    [[nodiscard]] QWidget& Widget() const;
+    /// Applies what a form states of the control.
     virtual void Apply(ControlProperties const& properties);
 
-private:
-    friend class Window;
-    friend void _SetProperties(Control& control, ControlProperties const& properties);
+    [[nodiscard]] int TabIndex() const { return tabIndex_; }
+    [[nodiscard]] QWidget& Widget() const { return *widget_; }
 
+protected:
+    /// Takes ownership of the widget.
+    Control(QWidget* widget, std::string const& name);
+
+    /// Sets the font that the properties ask for. A bold caption that is too wide for its place, less these
+    /// margins in pixels, is condensed to fit.
+    void ApplyFont(ControlProperties const& properties, int margins);
+
+private:
     std::unique_ptr<QWidget> widget_;
     int tabIndex_ = 0;
 };

@@ -6,14 +6,14 @@
 
 class QPrinter;
 
-/// A message box as the program asks for it. A question has the buttons Yes and No, a notice has one.
+/// A message box that the program asks for. A question has the buttons Yes and No, a notice has one.
 struct MessageBoxRequest {
     std::string text;
     std::string title;
     bool question = false;
 };
 
-/// A file dialog as the program asks for it, for a file to save or one to open.
+/// A file dialog that the program asks for, to choose a file to save or one to open.
 struct FileDialogRequest {
     bool saving = false;
     std::string title;
@@ -22,12 +22,13 @@ struct FileDialogRequest {
     std::string suggestedName;
 };
 
-/// The one way out for everything that waits for the user or leaves the process. They lead to the desktop
-/// from the start; a test puts its own answers in their place.
+/// Every call that blocks on the user or leaves the process goes through one of these. The start of the run-time
+/// connects them to the desktop; a test replaces them by its own answers.
 struct Doors {
+    /// Returns kYes or kNo; for a notice the result means nothing.
     std::function<int(MessageBoxRequest const&)> messageBox;
     std::function<void(std::string const& address)> browser;
-    /// The path of the chosen file, or nothing.
+    /// Returns the path of the chosen file, or nothing.
     std::function<std::optional<std::string>(FileDialogRequest const&)> fileDialog;
     /// Lets the user set the printer up; false if the user cancels.
     std::function<bool(QPrinter&)> printDialog;

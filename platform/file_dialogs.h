@@ -5,13 +5,15 @@
 #include <optional>
 #include <string>
 
+struct FileDialogRequest;
+
 /// Asks the user for a file to open.
 class OpenDialog {
 public:
     FolderItem InitialDirectory{""};
     std::string Title;
 
-    /// The chosen file, or nothing if the user cancels.
+    /// Returns the chosen file, or nothing if the user cancels.
     [[nodiscard]] std::optional<FolderItem> ShowModal() const;
 };
 
@@ -23,6 +25,9 @@ public:
     std::string SuggestedFileName;
     std::string Title;
 
-    /// The chosen place, or nothing if the user cancels.
+    /// Returns the chosen place, or nothing if the user cancels.
     [[nodiscard]] std::optional<FolderItem> ShowModal() const;
 };
+
+/// Shows a file dialog as the desktop does it. Returns the path of the chosen file, or nothing.
+std::optional<std::string> ShowFileDialog(FileDialogRequest const& request);

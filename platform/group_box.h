@@ -7,6 +7,5 @@ class GroupBox final : public Control {
 public:
     GroupBox(QWidget* parent, std::string const& name);
 
-private:
     void Apply(ControlProperties const& properties) override;
 };

@@ -10,6 +10,5 @@ public:
     /// Lets the text run over several centred lines.
     void Multiline();
 
-private:
     void Apply(ControlProperties const& properties) override;
 };

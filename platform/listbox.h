@@ -33,6 +33,5 @@ public:
     /// 0: one row can be selected at a time, 1: several.
     void RowSelectionType(int type);
 
-private:
     void Apply(ControlProperties const& properties) override;
 };

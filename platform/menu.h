@@ -5,11 +5,10 @@
 #include <string_view>
 #include <vector>
 
-class QAction;
-class QMenu;
-class QMenuBar;
-class TopLevel;
+class MenuAction;
 class MenuBar;
+class QMenu;
+class TopLevel;
 
 /// One item of a menu bar. An item without a caption is never shown but keeps its properties; the caption
 /// "-" is a separator. An item whose children have captions is a menu, any other is a command.
@@ -26,17 +25,21 @@ public:
     [[nodiscard]] bool Enabled() const;
     void Enabled(bool enabled);
 
-    /// On: each time the bar is brought up to date, the item is on if it has something to do.
+    /// If set, the item is enabled each time the bar is brought up to date and there is something for it to do.
     bool AutoEnabled = true;
 
     [[nodiscard]] bool Visible() const;
-    /// Off hides the item whatever its caption.
+    /// An item without a caption stays hidden all the same.
     void Visible(bool visible);
+
+    /// The next press of the shortcut does nothing, unless the user types something, chooses a command or moves
+    /// the focus first. Choosing the item itself always acts.
+    void IgnoreNextShortcut();
 
     MenuItem& Append(std::unique_ptr<MenuItem> child);
 
 protected:
-    [[nodiscard]] QAction& Action() const { return *action_; }
+    [[nodiscard]] MenuAction& Action() const { return *action_; }
 
 private:
     friend class MenuBar;
@@ -46,13 +49,13 @@ private:
     [[nodiscard]] MenuItem* Find(std::string_view name);
 
     std::string text_;
-    std::unique_ptr<QAction> action_;
+    std::unique_ptr<MenuAction> action_;
     std::unique_ptr<QMenu> menu_; ///< what the item opens; none for a command
     std::vector<std::unique_ptr<MenuItem>> children_;
     bool visible_ = true;
 };
 
-/// An item that belongs to the application's own menu where the platform has one.
+/// An item that belongs to the application's own menu on platforms that have one.
 class AppleMenuItem final : public MenuItem {
 public:
     AppleMenuItem(std::string_view name, std::string_view text, std::string_view shortcut);
@@ -65,8 +68,8 @@ public:
 };
 
 /// A menu bar that one or several windows show. A command goes to the handler of the window in front; one
-/// that has none there is off. The items EditCut, EditCopy, EditPaste and EditClear need no handler: they
-/// act on the focused text field and are off where there is none.
+/// that has none there is disabled. The items EditCut, EditCopy, EditPaste and EditClear need no handler: they
+/// act on the focused text field and are disabled if there is none.
 class MenuBar {
 public:
     MenuBar();
@@ -78,12 +81,12 @@ public:
     [[nodiscard]] MenuItem& Item(std::string_view name) const;
     MenuItem& Append(std::unique_ptr<MenuItem> item);
 
+    /// Shows the bar in a window.
+    void ShowIn(TopLevel& window);
+
 private:
     friend class MenuItem;
-    friend class TopLevel;
-    friend class Window;
 
-    void ShowIn(QMenuBar& bar);
     void Update();
     static void Choose(MenuItem const& item);
 
@@ -91,5 +94,5 @@ private:
     bool built_ = false;
 };
 
-/// Gives a menu bar to the toolkit, which keeps it until the process ends.
+/// Takes ownership of a menu bar until the process ends.
 MenuBar& KeepMenuBar(std::unique_ptr<MenuBar> bar);

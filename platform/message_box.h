@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+struct MessageBoxRequest;
+
 /// What a question answers.
 inline constexpr int kYes = 6;
 inline constexpr int kNo = 7;
@@ -12,6 +14,9 @@ inline constexpr int kYesNoQuestion = 36;
 /// Shows a notice and returns when the user has dismissed it.
 void MsgBox(std::string_view text);
 
-/// Asks a question: kYesNoQuestion is the one form there is. Gives kYes or kNo; No is the default and what
-/// Escape answers.
+/// Asks a question; the only form of buttons is kYesNoQuestion. Returns kYes or kNo. No is the default, and what
+/// Escape and the end of the program answer.
 int MsgBox(std::string_view text, int buttons, std::string_view title);
+
+/// The same, as the desktop does it.
+int ShowMessageBox(MessageBoxRequest const& request);

@@ -6,9 +6,10 @@
 #include <string_view>
 
 class PrintJob;
+class QPrinter;
 
 /// A print job, drawn page by page. One unit is 1/72 inch, counted from the top left corner of the paper. The
-/// release of the object ends the job.
+/// destruction of the object ends the job.
 class Graphics {
 public:
     explicit Graphics(std::unique_ptr<PrintJob> job);
@@ -16,12 +17,12 @@ public:
     Graphics(Graphics const&) = delete;
     Graphics& operator=(Graphics const&) = delete;
 
-    /// The job could not be carried out: the file that it was to go to, if any, and the reason. Comes at most
-    /// once, at the release.
+    /// The job failed: the file that it was meant for, if any, and the reason. Called at most once, at the end of
+    /// the job.
     std::function<void(std::string const& fileName, std::string const& reason)> Failed;
 
-    /// Draws one line of text that starts at x on the base line y, in black, 12 units high. Width 0 is no
-    /// wrapping, the only width there is.
+    /// Draws one line of text that starts at x on the base line y, in black, 12 units high. It is never wrapped or
+    /// condensed: width must be 0 and condense false.
     void DrawString(std::string_view text, double x, double y, double width, bool condense);
     /// Ends the page; later drawing goes to the next one.
     void NextPage();
@@ -32,3 +33,6 @@ private:
 
 /// Shows the print dialog. Null if the user cancels.
 std::unique_ptr<Graphics> OpenPrinterDialog();
+
+/// Shows the print dialog as the desktop does it. Returns false if the user cancels.
+bool ShowPrintDialog(QPrinter& printer);

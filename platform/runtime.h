@@ -4,10 +4,11 @@
 #include <functional>
 #include <string_view>
 
-/// Brings the toolkit up. It is told the program's name and nothing of the command line.
+/// Creates the toolkit. It is given the program's name and nothing of the command line.
 void RuntimeInit();
 
-/// Sets what must stand before the first window: the program's name and how the process ends.
+/// Sets what must be there before the first window: the program's name, how the process ends, and where message
+/// boxes and dialogs appear.
 void RuntimePerformInitializers();
 
 /// Calls back once the toolkit is up.
@@ -16,7 +17,7 @@ void _RunFrameworkInitialization(std::function<void()> const& lateStartup);
 /// Runs the event loop until the user quits or the last window has closed.
 void _RuntimeRun();
 
-/// Ends the windows that are still open, then the menu bars, the application object and the toolkit.
+/// Destroys the windows that are still open, then the menu bars, the application object and the toolkit.
 void RuntimePerformFinalizers();
 
 /// The exit status of the process: 0, or 1 after an exception that nothing caught.

@@ -24,6 +24,5 @@ public:
     /// Limits what a user can put in, by whatever way, to so many characters. Program writes stay whole.
     void MaximumCharactersAllowed(int count);
 
-private:
     void Apply(ControlProperties const& properties) override;
 };

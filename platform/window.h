@@ -4,6 +4,7 @@
 #include "platform/control.h"
 #include "platform/menu.h"
 
+#include <cassert>
 #include <functional>
 #include <map>
 #include <memory>
@@ -26,39 +27,32 @@ struct WindowProperties {
     std::optional<Color> background = {}; ///< without one the platform's window colour
 };
 
-/// A plain window of fixed size. It keeps its controls by name and its menu handlers by item. The toolkit
-/// owns every open window: see KeepWindow and _GetImplicitWindow.
+/// A plain window of fixed size. It keeps its controls by name. The run-time owns every open window: see
+/// KeepWindow and _GetImplicitWindow. A window class builds itself in its constructor, in this order: its layout,
+/// its controls, its menu handlers, Show, and its own event of opening.
 class Window {
 public:
     virtual ~Window();
     Window(Window const&) = delete;
     Window& operator=(Window const&) = delete;
 
-    /// Makes the window visible and brings it to the front.
+    /// Makes the window visible and brings it to the front. At the first time its controls get their keyboard
+    /// order.
     void Show();
-    /// Closes the window and ends its controls, as soon as the event at hand is over.
+    /// Closes the window and destroys its controls, as soon as the current event is over.
     void Close();
 
     /// The bar that the window shows above its content.
     void MenuBar(class MenuBar& bar);
     [[nodiscard]] class MenuBar& MenuBar() const;
 
-protected:
-    /// The steps in which a window is built, in their order, and the event that its menu bar asks for.
-    struct Steps {
-        std::function<void()> layout;
-        std::function<void()> createControls;
-        std::function<void()> addMenuHandlers;
-        std::function<void()> open;
-        std::function<void()> enableMenuItems;
-    };
+    [[nodiscard]] std::string const& ClassName() const { return className_; }
+    [[nodiscard]] TopLevel& Desktop() const { return *topLevel_; }
 
+protected:
     explicit Window(std::string className);
 
-    /// Runs the steps; the window is visible from the moment that its controls and handlers stand.
-    void Build(Steps steps);
-
-    /// Makes a control and registers it under its name, on the window or inside another control.
+    /// Creates a control and registers it under its name, on the window or inside another control.
     template <class Type>
     Type& Add(std::string const& name, Control* parent = nullptr)
     {
@@ -68,44 +62,33 @@ protected:
         return result;
     }
 
-    /// The control that was registered under this name as this type.
+    /// The control that was registered under this name; there must be one, of this type.
     template <class Type>
     [[nodiscard]] Type& Get(std::string_view name) const
     {
-        return static_cast<Type&>(Find(name));
+        Control& found = Find(name);
+        assert(dynamic_cast<Type*>(&found) != nullptr);
+        return static_cast<Type&>(found);
     }
 
 private:
-    friend class TopLevel;
-    friend class MenuBar;
-    friend class MenuItem;
-    friend Window& KeepWindow(std::unique_ptr<Window> window);
-    friend void _SetProperties(Window& window, WindowProperties const& properties);
-    friend void _AddMenuHandler(Window& window, std::string_view item, std::function<bool()> handler);
-
     [[nodiscard]] QWidget* ParentOf(Control* parent) const;
     void Register(std::string const& name, std::unique_ptr<Control> control);
     [[nodiscard]] Control& Find(std::string_view name) const;
     void OrderKeyboard();
-    void CloseByDesktop();
-    [[nodiscard]] bool HandlesMenu(std::string_view item) const;
-    void HandleMenu(std::string_view item);
-    void EnableMenuItems();
 
     std::string className_;
-    Steps steps_;
     class MenuBar* menuBar_ = nullptr;
-    bool hasCloseButton_ = false;
     std::unique_ptr<TopLevel> topLevel_;
     std::vector<std::unique_ptr<Control>> controls_;
     std::map<std::string, Control*, std::less<>> controlsByName_;
-    std::map<std::string, std::function<bool()>, std::less<>> menuHandlers_;
+    bool hasKeyboardOrder_ = false;
 };
 
-/// The open window of this class, or null. A window that was closed no longer counts.
+/// The open window of this class, or null. A closed window no longer counts.
 Window* _GetImplicitWindow(std::string_view className);
 
-/// Gives a new window to the toolkit, which keeps it until it closes.
+/// Takes ownership of a new window until it closes.
 Window& KeepWindow(std::unique_ptr<Window> window);
 
 /// Applies a stored set of properties to a window.
@@ -113,3 +96,7 @@ void _SetProperties(Window& window, WindowProperties const& properties);
 
 /// Registers what the window does when it is in front and the user chooses the item of this name.
 void _AddMenuHandler(Window& window, std::string_view item, std::function<bool()> handler);
+
+/// Registers what enables the window's menu items; called each time the menu bar is brought up to date while the
+/// window is in front.
+void _SetEnableMenuItems(Window& window, std::function<void()> handler);

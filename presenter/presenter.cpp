@@ -13,11 +13,10 @@ class Window1& Window1()
 
 Window1::Window1() : Window("Window1")
 {
-    Build({.layout = [this] { Layout(); },
-           .createControls = [this] { CreateControls(); },
-           .addMenuHandlers = [this] { AddMenuHandlers(); },
-           .open = {},
-           .enableMenuItems = [this] { Event_EnableMenuItems(); }});
+    Layout();
+    CreateControls();
+    AddMenuHandlers();
+    Show();
 }
 
 void Window1::Layout()
@@ -69,6 +68,7 @@ void Window1::_CreateControls0()
 void Window1::AddMenuHandlers()
 {
     _AddMenuHandler(*this, "FileClose", [this] { return _FileClose_Action(); });
+    _SetEnableMenuItems(*this, [this] { Event_EnableMenuItems(); });
 }
 
 void Window1::Event_EnableMenuItems()

@@ -1,9 +1,10 @@
 #include "platform/file_dialogs.h"
 
 #include "platform/doors.h"
-#include "platform/qt/desktop_doors.h"
+#include "platform/qt/system/runtime_object.h"
 #include "platform/qt/text.h"
-#include "platform/qt/top_level.h"
+#include "platform/qt/widgets/dialogs.h"
+#include "platform/qt/widgets/top_level.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -28,8 +29,8 @@ std::optional<FolderItem> Ask(FileDialogRequest const& request)
     return path ? std::optional(FolderItem(*path)) : std::nullopt;
 }
 
-/// Where a system has file dialogs of its own that users know, those are shown; elsewhere the toolkit's,
-/// which alone show the prompt.
+/// Systems that have file dialogs of their own that users know show those; elsewhere the toolkit's are shown,
+/// since only they show the prompt.
 bool HasFamiliarDialogs()
 {
     QString const platform = QGuiApplication::platformName();
@@ -40,6 +41,9 @@ bool HasFamiliarDialogs()
 
 std::optional<std::string> ShowFileDialog(FileDialogRequest const& request)
 {
+    if (Runtime::instance().isEnding()) {
+        return std::nullopt;
+    }
     QFileDialog dialog(TopLevel::front(), ToQt(request.title), ToQt(request.folder));
     dialog.setOption(QFileDialog::DontUseNativeDialog, !HasFamiliarDialogs());
     dialog.setAcceptMode(request.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
@@ -48,7 +52,7 @@ std::optional<std::string> ShowFileDialog(FileDialogRequest const& request)
         dialog.setLabelText(QFileDialog::FileName, ToQt(request.prompt));
     }
     dialog.selectFile(ToQt(request.suggestedName));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    if (RunDialog(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return std::nullopt;
     }
     return FromQt(dialog.selectedFiles().constFirst());

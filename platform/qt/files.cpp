@@ -1,7 +1,7 @@
 #include "platform/files.h"
 
-#include "platform/qt/native.h"
-#include "platform/qt/save_file.h"
+#include "platform/qt/system/native.h"
+#include "platform/qt/system/save_file.h"
 #include "platform/qt/text.h"
 
 #include <QDir>
@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr std::size_t kLongestLine = 65536; // bytes
+constexpr std::size_t kMaxLine = 65536; // bytes
 constexpr qint64 kChunk = 4096;
 
 } // namespace
@@ -22,7 +22,7 @@ TextInputStream::TextInputStream(std::unique_ptr<QFile> file) : file_(std::move(
 
 TextInputStream::~TextInputStream() = default;
 
-/// Reads on. False at the end of the file and after a fault.
+/// Reads the next chunk. False at the end of the file and after a fault.
 bool TextInputStream::Fill()
 {
     QByteArray chunk(kChunk, '\0');
@@ -39,12 +39,12 @@ std::string TextInputStream::ReadLine()
 {
     std::size_t end = buffer_.find_first_of("\r\n");
     // A CR at the very end of what was read may be the first half of a line end.
-    while (fault_.empty() && buffer_.size() <= kLongestLine &&
+    while (fault_.empty() && buffer_.size() <= kMaxLine &&
            (end == std::string::npos || end + 1 == buffer_.size()) && Fill()) {
         end = buffer_.find_first_of("\r\n", end == std::string::npos ? 0 : end);
     }
     std::size_t const length = std::min(end, buffer_.size());
-    if (length > kLongestLine) {
+    if (length > kMaxLine) {
         fault_ = "it holds a line that is too long";
     }
     if (!fault_.empty()) {
@@ -81,7 +81,7 @@ std::string TextOutputStream::Close()
     if (makesFolder_ && !QDir().mkpath(QFileInfo(path).path())) {
         return "its folder could not be made";
     }
-    return FromQt(SaveWhole(path, QByteArray::fromStdString(text_)));
+    return FromQt(ReplaceFile(path, QByteArray::fromStdString(text_)));
 }
 
 FolderItem::FolderItem(std::string path, bool makesFolder) : path_(std::move(path)), makesFolder_(makesFolder)
@@ -114,7 +114,7 @@ std::unique_ptr<TextInputStream> FolderItem::OpenAsTextFile(std::string& fault) 
 {
     QString const path = ToQt(path_);
     QFileInfo const place(path);
-    if (place.exists() && !place.isFile()) { // opening a pipe or a device could wait for ever
+    if (place.exists() && !place.isFile()) { // opening a pipe or a device could block forever
         fault = "it is not a plain file";
         return nullptr;
     }

@@ -1,21 +1,18 @@
 #include "platform/menu.h"
 
-#include "platform/qt/guard.h"
-#include "platform/qt/line_edit.h"
-#include "platform/qt/menu_actions.h"
+#include "platform/qt/system/runtime_object.h"
 #include "platform/qt/text.h"
-#include "platform/qt/text_commands.h"
-#include "platform/qt/top_level.h"
-#include "platform/window.h"
+#include "platform/qt/widgets/line_edit.h"
+#include "platform/qt/widgets/menu_action.h"
+#include "platform/qt/widgets/text_commands.h"
+#include "platform/qt/widgets/top_level.h"
 
-#include <QAction>
-#include <QCoreApplication>
-#include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
 
 #include <algorithm>
-#include <stdexcept>
+#include <cassert>
+#include <cstdlib>
 
 namespace {
 
@@ -29,41 +26,17 @@ QKeySequence ToKeys(std::string_view shortcut)
     return {ToQt(shortcut).replace(QStringLiteral("Cmd+"), QStringLiteral("Ctrl+"))};
 }
 
-QAction* FindAction(QList<QAction*> const& actions, QKeySequence const& keys)
-{
-    for (QAction* const action : actions) {
-        if (action->shortcut() == keys) {
-            return action;
-        }
-        if (action->menu() != nullptr) {
-            if (QAction* const inside = FindAction(action->menu()->actions(), keys)) {
-                return inside;
-            }
-        }
-    }
-    return nullptr;
-}
-
 } // namespace
 
-QAction* MenuActionOf(QWidget const& window, QKeyEvent const& event)
-{
-    auto const* const top = dynamic_cast<TopLevel const*>(&window);
-    if (top == nullptr || event.modifiers() == Qt::NoModifier) {
-        return nullptr;
-    }
-    return FindAction(top->menuBar()->actions(), QKeySequence(event.keyCombination()));
-}
-
 MenuItem::MenuItem(std::string_view name, std::string_view text, std::string_view shortcut)
-    : text_(text), action_(std::make_unique<QAction>())
+    : text_(text), action_(std::make_unique<MenuAction>())
 {
     action_->setObjectName(ToQt(name));
     bool const isSeparator = text == "-";
     action_->setText(isSeparator ? QString() : ToQt(text)); // a line with a text is drawn as a heading
     action_->setSeparator(isSeparator);
     action_->setShortcut(ToKeys(shortcut));
-    action_->setAutoRepeat(false); // a key held down must not take back a whole class
+    action_->setAutoRepeat(false); // a key held down must not undo a whole class
     action_->setMenuRole(QAction::NoRole);
     action_->setVisible(!text.empty());
 }
@@ -99,6 +72,11 @@ void MenuItem::Visible(bool visible)
 {
     visible_ = visible;
     action_->setVisible(visible && !text_.empty());
+}
+
+void MenuItem::IgnoreNextShortcut()
+{
+    action_->ignoreNextShortcut();
 }
 
 MenuItem& MenuItem::Append(std::unique_ptr<MenuItem> child)
@@ -154,7 +132,7 @@ void MenuItem::BringUpToDate(TopLevel const* front)
         Enabled(field != nullptr && !(command->needsEditable && field->isReadOnly()));
     } else {
         bool const isQuit = dynamic_cast<QuitMenuItem*>(this) != nullptr;
-        Enabled(menu_ != nullptr || isQuit || (front != nullptr && front->owner().HandlesMenu(Name())));
+        Enabled(menu_ != nullptr || isQuit || (front != nullptr && front->menuHandlers.contains(Name())));
     }
 }
 
@@ -186,18 +164,21 @@ MenuItem& MenuBar::Item(std::string_view name) const
             return *found;
         }
     }
-    throw std::out_of_range("no menu item " + std::string(name));
+    assert(!"a menu item of this name");
+    std::abort();
 }
 
-void MenuBar::ShowIn(QMenuBar& bar)
+void MenuBar::ShowIn(TopLevel& window)
 {
     for (auto const& item : items_) {
         if (!built_) {
             item->BuildMenu(*this);
         }
-        bar.addAction(&item->Action());
+        window.menuBar()->addAction(&item->Action());
     }
     built_ = true;
+    window.updateMenuBar = [this] { Update(); };
+    window.addMenuKeys();
 }
 
 void MenuBar::Update()
@@ -206,23 +187,31 @@ void MenuBar::Update()
     for (auto const& item : items_) {
         item->BringUpToDate(front);
     }
-    if (front != nullptr) {
-        front->owner().EnableMenuItems();
+    if (front != nullptr && front->enableMenuItems) {
+        front->enableMenuItems();
     }
 }
 
-/// Carries a command out: by the layer itself, or by the handler of the window in front.
+/// Carries out a command: here, or by the handler of the window in front.
 void MenuBar::Choose(MenuItem const& item)
 {
     TopLevel* const front = TopLevel::front();
     if (dynamic_cast<QuitMenuItem const*>(&item) != nullptr) {
-        QCoreApplication::exit(0);
+        Runtime::instance().end();
     } else if (TextCommand const* const command = FindTextCommand(item.Name())) {
         if (LineEdit* const field = FocusedField(front)) {
             command->run(*field);
         }
     } else if (front != nullptr) {
         front->beginCommand();
-        front->owner().HandleMenu(item.Name());
+        auto const handler = front->menuHandlers.find(item.Name());
+        if (handler != front->menuHandlers.end()) {
+            handler->second();
+        }
     }
+}
+
+MenuBar& KeepMenuBar(std::unique_ptr<MenuBar> bar)
+{
+    return *Runtime::instance().menuBars.emplace_back(std::move(bar));
 }

@@ -1,11 +1,12 @@
 #include "platform/printing.h"
 
 #include "platform/doors.h"
-#include "platform/qt/desktop_doors.h"
-#include "platform/qt/guard.h"
-#include "platform/qt/save_file.h"
+#include "platform/guarded.h"
+#include "platform/qt/system/runtime_object.h"
+#include "platform/qt/system/save_file.h"
 #include "platform/qt/text.h"
-#include "platform/qt/top_level.h"
+#include "platform/qt/widgets/dialogs.h"
+#include "platform/qt/widgets/top_level.h"
 
 #include <QBuffer>
 #include <QFileInfo>
@@ -14,6 +15,8 @@
 #include <QPrintDialog>
 #include <QPrinter>
 
+#include <cassert>
+
 namespace {
 
 constexpr double kUnitsPerInch = 72.0;
@@ -21,8 +24,8 @@ constexpr int kFontHeight = 12;
 
 } // namespace
 
-/// What a job is drawn on: the printer, or for a file a document in memory that is saved when it is complete,
-/// so that a full or unwritable disk is noticed and an older file survives it.
+/// What a job is drawn on: the printer, or for a file a document in memory that is saved when it is complete, so
+/// that a full or unwritable disk is noticed and an older file survives it.
 class PrintJob {
 public:
     explicit PrintJob(std::unique_ptr<QPrinter> printer) : printer_(std::move(printer))
@@ -49,7 +52,7 @@ public:
 
     void nextPage() { hasPages_ = hasPages_ && (writer_ ? writer_->newPage() : printer_->newPage()); }
 
-    /// Ends the job. Gives the reason of a failure, empty if there was none.
+    /// Ends the job. Returns the reason of a failure, empty if there was none.
     QString end()
     {
         bool const isDrawn = painter_.isActive() && painter_.end() && hasPages_;
@@ -61,7 +64,7 @@ public:
                        : QStringLiteral("the printer \"%1\" did not take them").arg(printer_->printerName());
         }
         writer_.reset();
-        return isDrawn ? SaveWhole(file(), document_.data()) : QStringLiteral("its pages could not be drawn");
+        return isDrawn ? ReplaceFile(file(), document_.data()) : QStringLiteral("its pages could not be drawn");
     }
 
 private:
@@ -90,13 +93,15 @@ Graphics::Graphics(std::unique_ptr<PrintJob> job) : job_(std::move(job)) {}
 Graphics::~Graphics()
 {
     QString const reason = job_->end();
-    if (!reason.isEmpty() && Failed) {
-        Guarded(Failed, FromQt(QFileInfo(job_->file()).fileName()), FromQt(reason));
+    if (!reason.isEmpty()) {
+        Raise(Failed, FromQt(QFileInfo(job_->file()).fileName()), FromQt(reason));
     }
 }
 
-void Graphics::DrawString(std::string_view text, double x, double y, double /*width*/, bool /*condense*/)
+void Graphics::DrawString(std::string_view text, double x, double y, [[maybe_unused]] double width,
+                          [[maybe_unused]] bool condense)
 {
+    assert(width == 0.0 && !condense);
     job_->draw(QPointF(x, y), ToQt(text));
 }
 
@@ -107,8 +112,11 @@ void Graphics::NextPage()
 
 bool ShowPrintDialog(QPrinter& printer)
 {
+    if (Runtime::instance().isEnding()) {
+        return false;
+    }
     QPrintDialog dialog(&printer, TopLevel::front());
-    return dialog.exec() == QDialog::Accepted;
+    return RunDialog(dialog) == QDialog::Accepted;
 }
 
 std::unique_ptr<Graphics> OpenPrinterDialog()

@@ -1,10 +1,14 @@
 #include "platform/runtime.h"
 
-#include "platform/application.h"
-#include "platform/menu.h"
-#include "platform/qt/guard.h"
-#include "platform/qt/open_windows.h"
-#include "platform/qt/top_level.h"
+#include "platform/browser.h"
+#include "platform/doors.h"
+#include "platform/file_dialogs.h"
+#include "platform/guarded.h"
+#include "platform/message_box.h"
+#include "platform/printing.h"
+#include "platform/qt/system/native.h"
+#include "platform/qt/system/runtime_object.h"
+#include "platform/qt/widgets/focus_order.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -14,53 +18,26 @@
 
 namespace {
 
-int exitStatus = 0;
+/// The desktop asks the program to end, at a log-out for one. Its windows are not asked whether they close.
+class QuitFilter final : public QObject {
+public:
+    using QObject::QObject;
 
-std::unique_ptr<Application>& AppObject()
-{
-    static std::unique_ptr<Application> application;
-    return application;
-}
-
-std::vector<std::unique_ptr<MenuBar>>& MenuBars()
-{
-    static std::vector<std::unique_ptr<MenuBar>> bars;
-    return bars;
-}
-
-std::string Reason(std::exception_ptr const& exception)
-{
-    try {
-        std::rethrow_exception(exception);
-    } catch (std::exception const& known) {
-        return known.what();
-    } catch (...) {
-        return "an unknown error";
+    bool eventFilter(QObject* /*receiver*/, QEvent* event) override
+    {
+        bool const isQuit = event->type() == QEvent::Quit;
+        if (isQuit) {
+            Runtime::instance().end();
+        }
+        return isQuit;
     }
-}
+};
 
 } // namespace
 
-std::function<void(std::string_view reason)>& ExceptionHelper()
-{
-    static std::function<void(std::string_view)> helper;
-    return helper;
-}
-
-void ReportException()
-{
-    if (!ExceptionHelper()) {
-        throw;
-    }
-    ExceptionHelper()(Reason(std::current_exception()));
-}
-
 void RuntimeInit()
 {
-    static int count = 1;
-    static char name[] = PROGRAM_NAME;
-    static char* arguments[] = {name, nullptr};
-    new QApplication(count, arguments); // until RuntimePerformFinalizers
+    Runtime::instance().start(PROGRAM_NAME);
 }
 
 void RuntimePerformInitializers()
@@ -70,7 +47,10 @@ void RuntimePerformInitializers()
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral(PROGRAM_NAME)));
     QApplication::setQuitOnLastWindowClosed(false); // Window::Close ends the process, on every platform
     QApplication::styleHints()->setTabFocusBehavior(Qt::TabFocusAllControls);
-    TopLevel::followFocus();
+    new FocusOrder(qApp);
+    qApp->installEventFilter(new QuitFilter(qApp));
+    HandleSignals([] { Runtime::instance().end(); });
+    PlatformDoors() = {ShowMessageBox, OpenInBrowser, ShowFileDialog, ShowPrintDialog};
 }
 
 void _RunFrameworkInitialization(std::function<void()> const& lateStartup)
@@ -80,26 +60,18 @@ void _RunFrameworkInitialization(std::function<void()> const& lateStartup)
 
 void _RuntimeRun()
 {
-    exitStatus = QApplication::exec();
+    Runtime::instance().run();
 }
 
 void RuntimePerformFinalizers()
 {
-    EndOpenWindows();
-    MenuBars().clear();
-    AppObject().reset();
+    Runtime::instance().finish();
     ExceptionHelper() = nullptr;
-    delete qApp;
 }
 
 int RuntimeExit()
 {
-    return exitStatus;
-}
-
-MenuBar& KeepMenuBar(std::unique_ptr<MenuBar> bar)
-{
-    return *MenuBars().emplace_back(std::move(bar));
+    return Runtime::instance().exitStatus;
 }
 
 void _InstallExceptionHelper(std::function<void(std::string_view reason)> helper)
@@ -109,20 +81,10 @@ void _InstallExceptionHelper(std::function<void(std::string_view reason)> helper
 
 void _UnhandledException(std::exception_ptr const& exception)
 {
-    std::cerr << PROGRAM_NAME << ": " << Reason(exception) << std::endl;
-    exitStatus = 1;
+    std::cerr << PROGRAM_NAME << ": " << ReasonOf(exception) << std::endl;
+    Runtime::instance().exitStatus = 1;
 }
 
 void _RuntimeInitExternalClasses() {}
 
 void _InitPluginEntrypoints() {}
-
-void _RuntimeRegisterAppObject(std::unique_ptr<Application> application)
-{
-    AppObject() = std::move(application);
-}
-
-Application* _RuntimeAppObject()
-{
-    return AppObject().get();
-}

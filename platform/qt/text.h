@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-// Texts cross the layer's border as UTF-8.
+// Texts are UTF-8 outside this folder.
 
 inline QString ToQt(std::string_view text)
 {

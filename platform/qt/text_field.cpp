@@ -1,47 +1,64 @@
 #include "platform/text_field.h"
 
-#include "platform/qt/controls.h"
-#include "platform/qt/line_edit.h"
+#include "platform/guarded.h"
 #include "platform/qt/text.h"
+#include "platform/qt/widgets/focus_order.h"
+#include "platform/qt/widgets/form_palette.h"
+#include "platform/qt/widgets/line_edit.h"
+#include "platform/qt/widgets/top_level.h"
+
+namespace {
+
+LineEdit& Field(Control const& control)
+{
+    return static_cast<LineEdit&>(control.Widget());
+}
+
+/// Moves the focus here and delivers its GotFocus before anything else happens.
+void TakeFocus(LineEdit& field)
+{
+    field.setFocus(Qt::OtherFocusReason);
+    if (auto* const top = dynamic_cast<TopLevel*>(field.window())) {
+        top->noteFocus(&field);
+        FocusOrder::instance().deliver();
+    }
+}
+
+} // namespace
 
 TextField::TextField(QWidget* parent, std::string const& name) : Control(new LineEdit(parent), name)
 {
-    auto& field = static_cast<LineEdit&>(Widget());
-    field.keyDown = [this](QString const& key) { return KeyDown && KeyDown(*this, FromQt(key)); };
-    field.gotFocus = [this] {
-        if (GotFocus) {
-            GotFocus(*this);
-        }
-    };
-    field.userChange = [this] {
-        if (TextChange) {
-            TextChange(*this);
-        }
-    };
+    LineEdit& field = Field(*this);
+    field.keyDown = [this](QString const& key) { return Raise(KeyDown, *this, FromQt(key)); };
+    field.gotFocus = [this] { Raise(GotFocus, *this); };
+    field.userChange = [this] { Raise(TextChange, *this); };
+    field.takeFocus = [&field] { TakeFocus(field); };
 }
 
 std::string TextField::Text() const
 {
-    return FromQt(static_cast<LineEdit const&>(Widget()).text());
+    return FromQt(Field(*this).text());
 }
 
 void TextField::Text(std::string_view text)
 {
-    static_cast<LineEdit&>(Widget()).writeByProgram(ToQt(text));
+    Field(*this).writeByProgram(ToQt(text));
 }
 
 void TextField::MaximumCharactersAllowed(int count)
 {
-    static_cast<LineEdit&>(Widget()).limitUserTo(count);
+    Field(*this).limitUserTo(count);
 }
 
 void TextField::Apply(ControlProperties const& properties)
 {
+    constexpr int kMargins = 8; // pixels, left and right of the text
     Control::Apply(properties);
-    auto& field = static_cast<LineEdit&>(Widget());
-    field.setFont(ControlFont(properties, 8));
+    ApplyFont(properties, kMargins);
+    LineEdit& field = Field(*this);
     field.setReadOnly(properties.readOnly);
     if (properties.background) {
-        field.setPalette(FieldPalette(field.palette(), *properties.background));
+        Color const& color = *properties.background;
+        field.setPalette(FieldPalette(field.palette(), QColor(color.red, color.green, color.blue)));
     }
 }

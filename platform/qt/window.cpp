@@ -1,59 +1,46 @@
 #include "platform/window.h"
 
-#include "platform/qt/controls.h"
-#include "platform/qt/guard.h"
-#include "platform/qt/open_windows.h"
+#include "platform/guarded.h"
+#include "platform/qt/system/runtime_object.h"
 #include "platform/qt/text.h"
-#include "platform/qt/top_level.h"
+#include "platform/qt/widgets/form_palette.h"
+#include "platform/qt/widgets/top_level.h"
 
 #include <QCoreApplication>
-#include <QMenuBar>
 
 #include <algorithm>
-#include <stdexcept>
+#include <cstdlib>
 
 namespace {
 
-using OpenWindows = std::map<std::string, std::unique_ptr<Window>, std::less<>>;
-
-OpenWindows& Open()
-{
-    static OpenWindows windows;
-    return windows;
-}
-
-/// Keeps a closed window until the event at hand is over: it may have closed in a handler of its own.
+/// Keeps a closed window until the current event is over: it may have closed in a handler of its own.
 class ClosedWindow final : public QObject {
 public:
-    explicit ClosedWindow(std::unique_ptr<Window> window) : QObject(qApp), window_(std::move(window))
+    explicit ClosedWindow(std::shared_ptr<Window> window) : QObject(qApp), window_(std::move(window))
     {
         deleteLater();
     }
 
 private:
-    std::unique_ptr<Window> window_;
+    std::shared_ptr<Window> window_;
 };
 
 } // namespace
 
-void EndOpenWindows()
-{
-    Open().clear();
-}
-
 Window* _GetImplicitWindow(std::string_view className)
 {
-    auto const found = Open().find(className);
-    return found == Open().end() ? nullptr : found->second.get();
+    auto const& windows = Runtime::instance().windows;
+    auto const found = windows.find(className);
+    return found == windows.end() ? nullptr : found->second.get();
 }
 
 Window::Window(std::string className)
-    : className_(std::move(className)), topLevel_(std::make_unique<TopLevel>(*this))
+    : className_(std::move(className)), topLevel_(std::make_unique<TopLevel>())
 {
     topLevel_->setObjectName(ToQt(className_));
 }
 
-/// Controls end from the last to the first: those inside another one before it.
+/// Controls are destroyed from the last to the first: those inside another one before it.
 Window::~Window()
 {
     while (!controls_.empty()) {
@@ -63,26 +50,15 @@ Window::~Window()
 
 Window& KeepWindow(std::unique_ptr<Window> window)
 {
-    Window& kept = *window;
-    Open().insert_or_assign(kept.className_, std::move(window));
-    return kept;
-}
-
-void Window::Build(Steps steps)
-{
-    steps_ = std::move(steps);
-    steps_.layout();
-    steps_.createControls();
-    OrderKeyboard();
-    steps_.addMenuHandlers();
-    Show();
-    if (steps_.open) {
-        steps_.open();
-    }
+    std::string const name = window->ClassName();
+    return *(Runtime::instance().windows[name] = std::move(window));
 }
 
 void Window::Show()
 {
+    if (!std::exchange(hasKeyboardOrder_, true)) {
+        OrderKeyboard();
+    }
     topLevel_->setWindowState(topLevel_->windowState() & ~Qt::WindowMinimized);
     topLevel_->show();
     topLevel_->raise();
@@ -91,65 +67,41 @@ void Window::Show()
 
 void Window::Close()
 {
-    auto const found = Open().find(className_);
-    if (found == Open().end() || found->second.get() != this) {
+    auto& windows = Runtime::instance().windows;
+    auto const found = windows.find(className_);
+    if (found == windows.end() || found->second.get() != this) {
         return;
     }
     topLevel_->hide();
     topLevel_->leaveFront();
-    new ClosedWindow(std::move(found->second)); // ends itself
-    Open().erase(found);
-    if (Open().empty()) {
-        QCoreApplication::exit(0);
-    }
-}
-
-void Window::CloseByDesktop()
-{
-    if (hasCloseButton_) {
-        Close();
+    new ClosedWindow(std::move(found->second)); // deletes itself
+    windows.erase(found);
+    if (windows.empty()) {
+        Runtime::instance().end();
     }
 }
 
 void Window::MenuBar(class MenuBar& bar)
 {
     menuBar_ = &bar;
-    bar.ShowIn(*topLevel_->menuBar());
+    bar.ShowIn(*topLevel_);
 }
 
 class MenuBar& Window::MenuBar() const
 {
+    assert(menuBar_ != nullptr);
     return *menuBar_;
-}
-
-bool Window::HandlesMenu(std::string_view item) const
-{
-    return menuHandlers_.find(item) != menuHandlers_.end();
-}
-
-void Window::HandleMenu(std::string_view item)
-{
-    auto const found = menuHandlers_.find(item);
-    if (found != menuHandlers_.end()) {
-        Guarded(found->second);
-    }
-}
-
-void Window::EnableMenuItems()
-{
-    if (steps_.enableMenuItems) {
-        Guarded(steps_.enableMenuItems);
-    }
 }
 
 QWidget* Window::ParentOf(Control* parent) const
 {
-    return parent == nullptr ? &topLevel_->content() : parent->widget_.get();
+    return parent == nullptr ? &topLevel_->content() : &parent->Widget();
 }
 
 void Window::Register(std::string const& name, std::unique_ptr<Control> control)
 {
-    controlsByName_[name] = control.get();
+    [[maybe_unused]] bool const isNew = controlsByName_.emplace(name, control.get()).second;
+    assert(isNew);
     controls_.push_back(std::move(control));
 }
 
@@ -157,43 +109,45 @@ Control& Window::Find(std::string_view name) const
 {
     auto const found = controlsByName_.find(name);
     if (found == controlsByName_.end()) {
-        throw std::out_of_range("no control " + std::string(name));
+        assert(!"a control of this name");
+        std::abort();
     }
     return *found->second;
 }
 
-/// Lays the keyboard order by the tab numbers: the window's own controls, each followed by those inside it.
+/// Sets the keyboard order by the tab numbers: the window's own controls, each followed by those inside it. The
+/// first one that takes keys gets the focus.
 void Window::OrderKeyboard()
 {
     auto const isInside = [this](Control const* control) {
-        return control->widget_->parentWidget() != &topLevel_->content();
+        return control->Widget().parentWidget() != &topLevel_->content();
     };
     std::map<QWidget const*, int> numbers;
     for (auto const& control : controls_) {
-        numbers[control->widget_.get()] = control->tabIndex_;
+        numbers[&control->Widget()] = control->TabIndex();
     }
     auto const place = [&](Control const* control) {
-        return isInside(control) ? std::pair(numbers[control->widget_->parentWidget()], control->tabIndex_)
-                                 : std::pair(control->tabIndex_, -1);
+        return isInside(control) ? std::pair(numbers[control->Widget().parentWidget()], control->TabIndex())
+                                 : std::pair(control->TabIndex(), -1);
     };
     std::vector<Control*> order;
     std::transform(controls_.begin(), controls_.end(), std::back_inserter(order),
                    [](auto const& control) { return control.get(); });
     std::sort(order.begin(), order.end(), [&](auto* one, auto* other) { return place(one) < place(other); });
     for (std::size_t i = 1; i < order.size(); ++i) {
-        QWidget::setTabOrder(order[i - 1]->widget_.get(), order[i]->widget_.get());
+        QWidget::setTabOrder(&order[i - 1]->Widget(), &order[i]->Widget());
     }
     auto const first = std::find_if(order.begin(), order.end(), [](Control const* control) {
-        return (control->widget_->focusPolicy() & Qt::TabFocus) != 0 && !control->widget_->isHidden();
+        return (control->Widget().focusPolicy() & Qt::TabFocus) != 0 && !control->Widget().isHidden();
     });
     if (first != order.end()) {
-        (*first)->widget_->setFocus(Qt::OtherFocusReason);
+        (*first)->Widget().setFocus(Qt::OtherFocusReason);
     }
 }
 
 void _SetProperties(Window& window, WindowProperties const& properties)
 {
-    TopLevel& top = *window.topLevel_;
+    TopLevel& top = window.Desktop();
     Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
     flags.setFlag(Qt::WindowCloseButtonHint, properties.hasCloseButton);
     flags.setFlag(Qt::WindowSystemMenuHint, properties.hasCloseButton);
@@ -203,13 +157,21 @@ void _SetProperties(Window& window, WindowProperties const& properties)
     top.setWindowTitle(ToQt(properties.title));
     top.content().setFixedSize(properties.width, properties.height);
     if (properties.background) {
+        Color const& color = *properties.background;
         top.content().setAutoFillBackground(true);
-        top.content().setPalette(FormPalette(*properties.background));
+        top.content().setPalette(FormPalette(QColor(color.red, color.green, color.blue)));
     }
-    window.hasCloseButton_ = properties.hasCloseButton;
+    if (properties.hasCloseButton) {
+        top.closeRequested = [&window] { window.Close(); };
+    }
 }
 
 void _AddMenuHandler(Window& window, std::string_view item, std::function<bool()> handler)
 {
-    window.menuHandlers_[std::string(item)] = std::move(handler);
+    window.Desktop().menuHandlers[std::string(item)] = [handler = std::move(handler)] { Guarded(handler); };
+}
+
+void _SetEnableMenuItems(Window& window, std::function<void()> handler)
+{
+    window.Desktop().enableMenuItems = [handler = std::move(handler)] { Guarded(handler); };
 }

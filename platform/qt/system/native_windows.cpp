@@ -1,4 +1,4 @@
-#include "platform/qt/native.h"
+#include "platform/qt/system/native.h"
 
 #include <QtGlobal>
 
@@ -11,3 +11,6 @@ QString FlushToDisk(int handle)
 {
     return _commit(handle) == 0 ? QString() : qt_error_string(static_cast<int>(_doserrno));
 }
+
+/// There are no such signals here.
+void HandleSignals(std::function<void()> const& /*end*/) {}

@@ -1,6 +1,6 @@
-#include "platform/qt/text_commands.h"
+#include "platform/qt/widgets/text_commands.h"
 
-#include "platform/qt/line_edit.h"
+#include "platform/qt/widgets/line_edit.h"
 
 #include <algorithm>
 #include <array>
@@ -14,7 +14,7 @@ void Copy(LineEdit& field)
 
 void Clear(LineEdit& field)
 {
-    field.clearSelection();
+    field.removeSelection();
 }
 
 void Cut(LineEdit& field)

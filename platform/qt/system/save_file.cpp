@@ -1,6 +1,6 @@
-#include "platform/qt/save_file.h"
+#include "platform/qt/system/save_file.h"
 
-#include "platform/qt/native.h"
+#include "platform/qt/system/native.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -8,11 +8,11 @@
 
 namespace {
 
-/// The file system's own words, or ours where it has none.
-QString Worded(QString const& path, QString const& reason)
+/// The file system's reason, or one of ours where it has none.
+QString Explain(QString const& path, QString const& reason)
 {
-    constexpr int kLongestName = 248; // bytes; the temporary beside the file needs seven more, of 255
-    if (QFile::encodeName(QFileInfo(path).fileName()).size() > kLongestName) {
+    constexpr int kMaxName = 248; // bytes; the temporary beside the file needs seven more, of 255
+    if (QFile::encodeName(QFileInfo(path).fileName()).size() > kMaxName) {
         return QStringLiteral("its name is too long");
     }
     bool const saysNothing = reason.isEmpty() || reason == QLatin1String("Unknown error");
@@ -26,13 +26,13 @@ QString WriteAll(QSaveFile& file, QByteArray const& bytes)
     if (written == bytes.size()) {
         return FlushToDisk(file.handle());
     }
-    bool const isShort = written >= 0;
-    return isShort ? QStringLiteral("there is no space left for it") : file.errorString();
+    bool const isPartial = written >= 0;
+    return isPartial ? QStringLiteral("there is no space left for it") : file.errorString();
 }
 
 } // namespace
 
-QString SaveWhole(QString const& path, QByteArray const& bytes)
+QString ReplaceFile(QString const& path, QByteArray const& bytes)
 {
     QFileInfo const place(path);
     if (place.exists() && !place.isFile()) {
@@ -40,12 +40,12 @@ QString SaveWhole(QString const& path, QByteArray const& bytes)
     }
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-        return Worded(path, file.errorString());
+        return Explain(path, file.errorString());
     }
     QString const fault = WriteAll(file, bytes);
     if (!fault.isEmpty()) {
         file.cancelWriting();
-        return Worded(path, fault);
+        return Explain(path, fault);
     }
-    return file.commit() ? QString() : Worded(path, file.errorString());
+    return file.commit() ? QString() : Explain(path, file.errorString());
 }

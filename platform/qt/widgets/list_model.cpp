@@ -1,4 +1,4 @@
-#include "platform/qt/list_model.h"
+#include "platform/qt/widgets/list_model.h"
 
 int ListModel::rowCount(QModelIndex const& parent) const
 {

@@ -1,0 +1,51 @@
+#include "platform/control.h"
+
+#include "platform/qt/text.h"
+#include "platform/qt/widgets/fitted_font.h"
+
+#include <QApplication>
+#include <QGroupBox>
+
+Control::Control(QWidget* widget, std::string const& name) : widget_(widget)
+{
+    widget->setObjectName(ToQt(name));
+}
+
+Control::~Control() = default;
+
+void Control::Tooltip(std::string_view text)
+{
+    widget_->setToolTip(ToQt(text));
+}
+
+void Control::Apply(ControlProperties const& properties)
+{
+    QPoint place(properties.left, properties.top);
+    for (QWidget* parent = widget_->parentWidget(); qobject_cast<QGroupBox*>(parent) != nullptr;
+         parent = parent->parentWidget()) {
+        place -= parent->pos();
+    }
+    widget_->setGeometry(QRect(place, QSize(properties.width, properties.height)));
+    widget_->setEnabled(properties.enabled);
+    widget_->setVisible(properties.visible);
+    widget_->setAccessibleName(ToQt(properties.accessibleName).simplified());
+    tabIndex_ = properties.tabIndex;
+}
+
+void Control::ApplyFont(ControlProperties const& properties, int margins)
+{
+    QFont font = QApplication::font();
+    if (properties.textSize > 0) {
+        font.setPixelSize(properties.textSize);
+    }
+    font.setBold(properties.bold);
+    if (properties.bold) {
+        font = FittedFont(font, ToQt(properties.caption), properties.width - margins);
+    }
+    widget_->setFont(font);
+}
+
+void _SetProperties(Control& control, ControlProperties const& properties)
+{
+    control.Apply(properties);
+}

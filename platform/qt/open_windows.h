@@ -1,4 +1,0 @@
-#pragma once
-
-/// Ends every window that is still open; the process is about to end.
-void EndOpenWindows();

@@ -1,0 +1,67 @@
+#include "platform/qt/system/native.h"
+
+#include <QCoreApplication>
+#include <QSocketNotifier>
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
+
+char const* const kLineEnd = "\n";
+
+QString FlushToDisk(int handle)
+{
+    int result = 0;
+    do {
+        result = ::fsync(handle);
+    } while (result != 0 && errno == EINTR);
+    bool const hasNone = errno == EINVAL || errno == ENOTSUP; // a file system that keeps nothing back
+    return result == 0 || hasNone ? QString() : qt_error_string(errno);
+}
+
+namespace {
+
+std::array<int, 2> signalPipe = {-1, -1}; // the end to read from, the end to write to
+
+/// A signal may come at any moment, so all that its handler does is to wake the event loop.
+extern "C" void WakeEventLoop(int /*signal*/)
+{
+    int const saved = errno;
+    char const byte = 0;
+    static_cast<void>(!::write(signalPipe[1], &byte, 1));
+    errno = saved;
+}
+
+void Install(int signal, void (*handler)(int))
+{
+    struct sigaction old = {};
+    ::sigaction(signal, nullptr, &old);
+    if (old.sa_handler == SIG_IGN) { // started so that it outlives its terminal
+        return;
+    }
+    struct sigaction action = {};
+    action.sa_handler = handler;
+    action.sa_flags = SA_RESTART;
+    ::sigaction(signal, &action, nullptr);
+}
+
+} // namespace
+
+void HandleSignals(std::function<void()> const& end)
+{
+    Install(SIGXFSZ, SIG_IGN);
+    if (::pipe(signalPipe.data()) != 0) {
+        return;
+    }
+    for (int const pipeEnd : signalPipe) {
+        ::fcntl(pipeEnd, F_SETFD, FD_CLOEXEC);
+        ::fcntl(pipeEnd, F_SETFL, O_NONBLOCK);
+    }
+    auto* const notifier = new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, qApp);
+    QObject::connect(notifier, &QSocketNotifier::activated, notifier, end);
+    for (int const signal : {SIGTERM, SIGHUP, SIGINT}) {
+        Install(signal, WakeEventLoop);
+    }
+}

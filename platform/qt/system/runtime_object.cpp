@@ -1,0 +1,41 @@
+#include "platform/qt/system/runtime_object.h"
+
+#include <QApplication>
+
+Runtime::Runtime() = default;
+Runtime::~Runtime() = default;
+
+Runtime& Runtime::instance()
+{
+    static Runtime* const runtime = new Runtime;
+    return *runtime;
+}
+
+void Runtime::start(char const* programName)
+{
+    name_ = programName;
+    arguments_ = {name_.data(), nullptr};
+    toolkit_ = std::make_unique<QApplication>(argumentCount_, arguments_.data());
+    isEnding_ = false;
+}
+
+void Runtime::run()
+{
+    if (!isEnding_) {
+        exitStatus = QApplication::exec();
+    }
+}
+
+void Runtime::end()
+{
+    isEnding_ = true;
+    QCoreApplication::exit(0);
+}
+
+void Runtime::finish()
+{
+    windows.clear();
+    menuBars.clear();
+    application.reset();
+    toolkit_.reset();
+}

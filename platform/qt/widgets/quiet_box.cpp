@@ -1,0 +1,66 @@
+#include "platform/qt/widgets/quiet_box.h"
+
+#include "platform/qt/widgets/held_keys.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+
+namespace {
+
+constexpr int kQuietTime = 500; // milliseconds
+
+/// A letter or digit meant for a field, or a key that is held down.
+bool IsStray(QKeyEvent const& event)
+{
+    bool const isPlain = !(event.modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier));
+    bool const isText = !event.text().isEmpty() && event.text().at(0).isPrint();
+    return IsRepeat(event) || (isPlain && isText && event.key() != Qt::Key_Space);
+}
+
+} // namespace
+
+QuietBox::QuietBox(QWidget* parent) : QMessageBox(parent)
+{
+    quiet_.setSingleShot(true);
+    quiet_.setInterval(kQuietTime);
+    qApp->installEventFilter(this);
+}
+
+QuietBox::~QuietBox() = default;
+
+void QuietBox::showEvent(QShowEvent* event)
+{
+    quiet_.start();
+    QMessageBox::showEvent(event);
+}
+
+/// Sees the events of the whole application: while the box is open every key is meant for it.
+bool QuietBox::eventFilter(QObject* /*receiver*/, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::ShortcutOverride:
+    case QEvent::KeyPress: {
+        auto const& key = *static_cast<QKeyEvent*>(event);
+        bool const isDropped = !takesKeys(key) || (event->type() == QEvent::KeyPress && IsStray(key));
+        event->setAccepted(isDropped);
+        return isDropped;
+    }
+    case QEvent::Shortcut:
+        return !isOpen_;
+    default:
+        return false;
+    }
+}
+
+/// The time stamps count beside the timer: they show how fast the keys came when the program was late to look.
+bool QuietBox::takesKeys(QKeyEvent const& event)
+{
+    quint64 const before = LastPressTime();
+    NoteKey(event);
+    bool const isSoon = event.timestamp() != 0 && event.timestamp() - before < kQuietTime;
+    isOpen_ = isOpen_ || (!quiet_.isActive() && !isSoon);
+    if (!isOpen_) {
+        quiet_.start();
+    }
+    return isOpen_;
+}
