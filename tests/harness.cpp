@@ -38,13 +38,13 @@ Doors const& RealDoors()
 }
 
 /// The names and texts in "percentage=29 lettergrade=F".
-std::vector<std::pair<QByteArray, QString>> NamesAndTexts(QByteArray const& fields)
+std::vector<std::pair<QString, QString>> NamesAndTexts(QString const& fields)
 {
     static QRegularExpression const pattern(u"(\\w+)=(.*?)(?= \\w+=|$)"_s,
                                             QRegularExpression::DotMatchesEverythingOption);
-    std::vector<std::pair<QByteArray, QString>> found;
-    for (auto const& match : pattern.globalMatch(QString::fromUtf8(fields))) {
-        found.emplace_back(match.captured(1).toLatin1(), match.captured(2));
+    std::vector<std::pair<QString, QString>> found;
+    for (auto const& match : pattern.globalMatch(fields)) {
+        found.emplace_back(match.captured(1), match.captured(2));
     }
     return found;
 }
@@ -69,16 +69,18 @@ TestSession::TestSession(std::vector<Box> boxes) : expectedBoxes_(std::move(boxe
     RealDoors();
     PlatformDoors().messageBox = [this](MessageBoxRequest const& request) {
         lastBox = request.text;
-        if (expectedBoxes_.empty() || request.text.rfind(expectedBoxes_.front().text, 0) != 0 ||
+        if (isBoxUp_ || expectedBoxes_.empty() || request.text.rfind(expectedBoxes_.front().text, 0) != 0 ||
             request.question != (expectedBoxes_.front().answer != 0)) {
             QTest::qFail(("unexpected box: " + request.text).c_str(), __FILE__, __LINE__);
             return kNo;
         }
         int const answer = expectedBoxes_.front().answer;
         expectedBoxes_.erase(expectedBoxes_.begin());
+        isBoxUp_ = true;
         if (whileBoxIsUp) {
             whileBoxIsUp();
         }
+        isBoxUp_ = false;
         return answer;
     };
     PlatformDoors().fileDialog = [this](FileDialogRequest const& request) {
@@ -128,34 +130,34 @@ QMainWindow* TestSession::window(char const* name) const
     return nullptr;
 }
 
-QString TestSession::text(QByteArray const& name, char const* in) const
+QString TestSession::text(QString const& name, char const* in) const
 {
     auto const* const list = widget<QTableView>(name, in);
     return list != nullptr ? RowsOf(*list->model()) : widget(name, in)->property("text").toString();
 }
 
-QString TestSession::texts(QByteArray const& names, char const* in) const
+QString TestSession::texts(QString const& names, char const* in) const
 {
     QStringList all;
-    for (QByteArray const& name : names.split(' ')) {
+    for (QString const& name : names.split(u' ')) {
         all += text(name, in);
     }
     return all.join(u'|');
 }
 
-void TestSession::expectFields(QByteArray const& expected, char const* in, char const* file, int line) const
+void TestSession::expectFields(QString const& expected, char const* in, char const* file, int line) const
 {
     for (auto const& [name, wanted] : NamesAndTexts(expected)) {
         if (QString const found = text(name, in); found != wanted) {
             QString const report = u"%1 is \"%2\", expected \"%3\""_s;
-            QTest::qFail(qPrintable(report.arg(QLatin1String(name), found, wanted)), file, line);
+            QTest::qFail(qPrintable(report.arg(name, found, wanted)), file, line);
         }
     }
 }
 
-void TestSession::expectEmpty(QByteArray const& names, char const* in, char const* file, int line) const
+void TestSession::expectEmpty(QString const& names, char const* in, char const* file, int line) const
 {
-    expectFields(QByteArray(names).replace(" ", "= ") + '=', in, file, line);
+    expectFields(QString(names).replace(u" "_s, u"= "_s) + u'=', in, file, line);
 }
 
 QList<QAction*> TestSession::menuItems() const
@@ -182,41 +184,47 @@ void TestSession::activate(char const* name) const
     QVERIFY(QTest::qWaitForWindowActive(window(name)));
 }
 
-QLineEdit* TestSession::enterField(char const* name) const
+QLineEdit* TestSession::enterField(QString const& name) const
 {
     widget(name)->setFocus(Qt::TabFocusReason);
     QCoreApplication::processEvents();
     return field(name);
 }
 
-void TestSession::paste(QByteArray const& text) const
+void TestSession::paste(QString const& text) const
 {
-    QGuiApplication::clipboard()->setText(QString::fromUtf8(text));
+    QGuiApplication::clipboard()->setText(text);
     chooseCommand("EditPaste");
 }
 
-void TestSession::click(char const* name, char const* in) const
+void TestSession::click(QString const& name, char const* in) const
 {
     QTest::mouseClick(widget(name, in), Qt::LeftButton);
 }
 
-void TestSession::type(char const* name, QByteArray const& text, char const* in) const
+void TestSession::clickOnScreen(QString const& name) const
+{
+    QPoint const place = widget(name)->mapTo(window(), widget(name)->rect().center());
+    QTest::mouseClick(window()->windowHandle(), Qt::LeftButton, {}, place);
+}
+
+void TestSession::type(QString const& name, QString const& text, char const* in) const
 {
     widget(name, in)->setFocus();
     field(name, in)->selectAll();
     QTest::keyClick(widget(name, in), Qt::Key_Delete);
-    QTest::keyClicks(widget(name, in), QString::fromUtf8(text).replace(u'\n', u'\r'));
+    QTest::keyClicks(widget(name, in), QString(text).replace(u'\n', u'\r'));
 }
 
-void TestSession::enterScores(char const* points, std::vector<char const*> const& missed) const
+void TestSession::enterScores(QString const& points, QStringList const& missed) const
 {
     type("total", points);
-    for (char const* const score : missed) {
-        type("missed", score + "\n"_ba);
+    for (QString const& score : missed) {
+        type("missed", score + u'\n');
     }
 }
 
-void TestSession::setFields(QByteArray const& fields) const
+void TestSession::setFields(QString const& fields) const
 {
     for (auto const& [name, text] : NamesAndTexts(fields)) {
         WriteByProgram(widget(name), text);

@@ -30,7 +30,7 @@ inline constexpr char const* kScaleFieldNames = "aplusmax aplusmin amax amin ami
                                                 "dplusmax dplusmin dmax dmin dminusmax dminusmin";
 
 /// The program from its start to its end, with every message box and dialog answered by the test. A box that
-/// the test did not expect fails it and is answered with No; an expected box that does not come fails it too.
+/// the test did not expect, or a second one at once, fails it and is answered with No; an expected box that does not come fails it too.
 class TestSession {
     Q_DISABLE_COPY(TestSession)
 
@@ -54,26 +54,26 @@ public:
     [[nodiscard]] class mainscreen& form() const { return ::mainscreen(); }
     [[nodiscard]] QMainWindow* window(char const* name = "mainscreen") const;
     template <class Type = QWidget>
-    [[nodiscard]] Type* widget(char const* name, char const* in = "mainscreen") const
+    [[nodiscard]] Type* widget(QString const& name, char const* in = "mainscreen") const
     {
-        return window(in)->findChild<Type*>(QLatin1String(name));
+        return window(in)->findChild<Type*>(name);
     }
-    [[nodiscard]] QLineEdit* field(char const* name, char const* in = "mainscreen") const
+    [[nodiscard]] QLineEdit* field(QString const& name, char const* in = "mainscreen") const
     {
         return widget<QLineEdit>(name, in);
     }
 
     /// The text of a field, a label or a button. A list's rows are separated by ";", its cells by ",".
-    [[nodiscard]] QString text(QByteArray const& name, char const* in = "mainscreen") const;
+    [[nodiscard]] QString text(QString const& name, char const* in = "mainscreen") const;
     /// The texts of several controls, separated by "|".
-    [[nodiscard]] QString texts(QByteArray const& names, char const* in = "mainscreen") const;
+    [[nodiscard]] QString texts(QString const& names, char const* in = "mainscreen") const;
     /// Fails for each control that does not hold its text: "percentage=29 lettergrade=F correct=". A text
     /// ends in front of the next blank that is followed by a name and "=".
-    void expectFields(QByteArray const& expected, char const* in = "mainscreen",
+    void expectFields(QString const& expected, char const* in = "mainscreen",
                       char const* file = __builtin_FILE(), int line = __builtin_LINE()) const;
     /// Fails for each of these controls that is not empty: "percentage ListBox1".
-    void expectEmpty(QByteArray const& names, char const* in = "mainscreen",
-                     char const* file = __builtin_FILE(), int line = __builtin_LINE()) const;
+    void expectEmpty(QString const& names, char const* in = "mainscreen", char const* file = __builtin_FILE(),
+                     int line = __builtin_LINE()) const;
 
     /// The menus of the window in front, each followed by its items.
     [[nodiscard]] QList<QAction*> menuItems() const;
@@ -84,16 +84,18 @@ public:
     /// Brings the window to the front and waits until it is active.
     void activate(char const* name = "mainscreen") const;
     /// Moves the focus to a field as Tab does; its GotFocus has been raised when this returns.
-    QLineEdit* enterField(char const* name) const;
+    QLineEdit* enterField(QString const& name) const;
     void chooseCommand(char const* item) const { menuItem(item)->trigger(); }
-    void paste(QByteArray const& text) const;
-    void click(char const* name, char const* in = "mainscreen") const;
+    void paste(QString const& text) const;
+    void click(QString const& name, char const* in = "mainscreen") const;
+    /// Clicks as the desktop reports it: to the window, which passes it on to what is under the pointer.
+    void clickOnScreen(QString const& name) const;
     /// Replaces a field's text by typing, key by key; a line end is a press of Return.
-    void type(char const* name, QByteArray const& text, char const* in = "mainscreen") const;
+    void type(QString const& name, QString const& text, char const* in = "mainscreen") const;
     /// Types the number of points, then each number missed with Return.
-    void enterScores(char const* points, std::vector<char const*> const& missed) const;
+    void enterScores(QString const& points, QStringList const& missed) const;
     /// Writes texts as the program does: "amin=80 amax=97".
-    void setFields(QByteArray const& fields) const;
+    void setFields(QString const& fields) const;
 
     std::string openedAddress;                   ///< the last address that was to be opened
     QString fileToChoose;                        ///< the file that the dialogs choose; empty cancels them
@@ -104,8 +106,19 @@ public:
 
 private:
     std::vector<Box> expectedBoxes_;
+    bool isBoxUp_ = false;
     QTemporaryDir folder_;
 };
+
+/// Adds a row of test data for each row of a table; a row has a name. QFETCH gets a pointer to it.
+template <class Row, std::size_t count>
+void AddRows(Row const (&table)[count])
+{
+    QTest::addColumn<Row const*>("row");
+    for (Row const& row : table) {
+        QTest::newRow(row.name) << &row;
+    }
+}
 
 /// Sends what an input method sends: text to insert, and text still in composition.
 void SendInputMethod(QLineEdit* field, char const* commit, char const* composing = "");

@@ -69,6 +69,38 @@ private slots:
         QCOMPARE(Answer(true, [](QMessageBox& box) { QCOMPARE(box.textFormat(), Qt::PlainText); }),
                  kStayedOpen);
     }
+
+    void theNoticeComesBeforeTheNextKeyAndLosesNone()
+    {
+        TestSession const session;
+        session.setFields("aplusmin=95");
+        session.enterField("amax");
+        session.useRealMessageBoxes(); // the real box, closed by Return
+        int boxes = 0;
+        QTimer closer;
+        connect(&closer, &QTimer::timeout, this, [&boxes] {
+            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                ++boxes;
+                QTest::keyClick(box, Qt::Key_Return);
+            }
+        });
+        closer.start(5);
+        QTest::keyClick(session.widget("amax"), Qt::Key_Tab);
+        QTest::keyClicks(session.widget("amin"), u"94"_s); // the first key finds the notice still to come
+        QTRY_COMPARE(boxes, 1);
+        session.activate();
+        QCOMPARE(session.texts("aplusmin amax amin"), "95|94|94"_L1);
+        QCOMPARE(QApplication::focusWidget(), session.widget("amin"));
+        QTest::qWait(20); // no second notice when the window has come back
+        QCOMPARE(boxes, 1);
+        session.setFields("aplusmin=96");
+        session.enterField("amax");
+        QTest::keyClick(session.widget("amax"), Qt::Key_Tab);
+        QTest::keyClick(session.widget("amin"),
+                        Qt::Key_Tab); // goes ahead of the notice and selects its field
+        QTRY_COMPARE(boxes, 2);
+        QCOMPARE(qobject_cast<QLineEdit*>(session.widget("aminusmax"))->selectedText(), "92"_L1);
+    }
 };
 
 GRADELOOM_TEST(Boxes)
