@@ -8,59 +8,119 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPrinter>
+#include <QRegularExpression>
 #include <QStandardPaths>
+
+#include <algorithm>
+
+// The two functions that know the inside of the layer over the desktop.
 
 namespace {
 
-QString Rows(QAbstractItemModel const& model)
+void WriteByProgram(QWidget* field, QString const& text)
 {
-    QString rows;
-    for (int i = 0; i < model.rowCount() * model.columnCount(); ++i) {
-        int const column = i % model.columnCount();
-        rows += column > 0 ? u"," : i > 0 ? u";" : u"";
-        rows += model.index(i / model.columnCount(), column).data().toString();
-    }
-    return rows;
+    static_cast<LineEdit*>(field)->writeByProgram(text);
+}
+
+void CloseAllWindows()
+{
+    EndOpenWindows();
 }
 
 } // namespace
 
-Desk::Desk(std::vector<Box> boxes) : expected_(std::move(boxes))
+namespace {
+
+Doors const& RealDoors()
 {
+    static Doors const doors = PlatformDoors();
+    return doors;
+}
+
+/// The names and texts in "percentage=29 lettergrade=F".
+std::vector<std::pair<QString, QString>> NamesAndTexts(QString const& fields)
+{
+    static QRegularExpression const pattern(u"(\\w+)=(.*?)(?= \\w+=|$)"_s,
+                                            QRegularExpression::DotMatchesEverythingOption);
+    std::vector<std::pair<QString, QString>> found;
+    for (auto const& match : pattern.globalMatch(fields)) {
+        found.emplace_back(match.captured(1), match.captured(2));
+    }
+    return found;
+}
+
+QString RowsOf(QAbstractItemModel const& model)
+{
+    QStringList rows;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        QStringList cells;
+        for (int column = 0; column < model.columnCount(); ++column) {
+            cells += model.index(row, column).data().toString();
+        }
+        rows += cells.join(u',');
+    }
+    return rows.join(u';');
+}
+
+} // namespace
+
+TestSession::TestSession(std::vector<Box> boxes) : expectedBoxes_(std::move(boxes))
+{
+    RealDoors();
     PlatformDoors().messageBox = [this](MessageBoxRequest const& request) {
-        if (expected_.empty() || request.text.rfind(expected_.front().text, 0) != 0 ||
-            request.question != (expected_.front().answer != 0)) {
+        lastBox = request.text;
+        if (isBoxUp_ || expectedBoxes_.empty() || request.text.rfind(expectedBoxes_.front().text, 0) != 0 ||
+            request.question != (expectedBoxes_.front().answer != 0)) {
             QTest::qFail(("unexpected box: " + request.text).c_str(), __FILE__, __LINE__);
             return kNo;
         }
-        int const answer = expected_.front().answer;
-        expected_.erase(expected_.begin());
+        int const answer = expectedBoxes_.front().answer;
+        expectedBoxes_.erase(expectedBoxes_.begin());
+        isBoxUp_ = true;
+        if (whileBoxIsUp) {
+            whileBoxIsUp();
+        }
+        isBoxUp_ = false;
         return answer;
     };
     PlatformDoors().fileDialog = [this](FileDialogRequest const& request) {
-        asked.push_back(request);
-        return chosen.isEmpty() ? std::nullopt : std::optional(chosen.toStdString());
+        dialogs.push_back(request);
+        return fileToChoose.isEmpty() ? std::nullopt : std::optional(fileToChoose.toStdString());
     };
     PlatformDoors().printDialog = [this](QPrinter& printer) {
-        asked.emplace_back();
-        printer.setOutputFileName(chosen);
-        return !chosen.isEmpty();
+        dialogs.emplace_back();
+        printer.setOutputFileName(fileToChoose);
+        if (setUpPrinter) {
+            setUpPrinter(printer);
+        }
+        return !fileToChoose.isEmpty();
     };
-    PlatformDoors().browser = [this](std::string const& address) { browsed = address; };
+    PlatformDoors().browser = [this](std::string const& address) { openedAddress = address; };
     ::mainscreen();
     activate();
 }
 
-Desk::~Desk()
+TestSession::~TestSession()
 {
-    EndOpenWindows();
+    CloseAllWindows();
     PlatformDoors().messageBox = nullptr; // a box that comes now ends the test
-    if (!expected_.empty()) {
-        QTest::qFail(("box did not come: " + expected_.front().text).c_str(), __FILE__, __LINE__);
+    for (Box const& box : expectedBoxes_) {
+        QTest::qFail(("box did not come: " + box.text).c_str(), __FILE__, __LINE__);
     }
 }
 
-QMainWindow* Desk::window(char const* name) const
+void TestSession::useRealMessageBoxes()
+{
+    PlatformDoors().messageBox = RealDoors().messageBox;
+}
+
+void TestSession::useRealDialogs()
+{
+    PlatformDoors().fileDialog = RealDoors().fileDialog;
+    PlatformDoors().printDialog = RealDoors().printDialog;
+}
+
+QMainWindow* TestSession::window(char const* name) const
 {
     for (QWidget* const widget : QApplication::topLevelWidgets()) {
         if (widget->objectName() == QLatin1String(name) && widget->isVisible()) {
@@ -70,94 +130,134 @@ QMainWindow* Desk::window(char const* name) const
     return nullptr;
 }
 
-QList<QAction*> Desk::menus() const
+QString TestSession::text(QString const& name, char const* in) const
+{
+    auto const* const list = widget<QTableView>(name, in);
+    return list != nullptr ? RowsOf(*list->model()) : widget(name, in)->property("text").toString();
+}
+
+QString TestSession::texts(QString const& names, char const* in) const
+{
+    QStringList all;
+    for (QString const& name : names.split(u' ')) {
+        all += text(name, in);
+    }
+    return all.join(u'|');
+}
+
+void TestSession::expectFields(QString const& expected, char const* in, char const* file, int line) const
+{
+    for (auto const& [name, wanted] : NamesAndTexts(expected)) {
+        if (QString const found = text(name, in); found != wanted) {
+            QString const report = u"%1 is \"%2\", expected \"%3\""_s;
+            QTest::qFail(qPrintable(report.arg(name, found, wanted)), file, line);
+        }
+    }
+}
+
+void TestSession::expectEmpty(QString const& names, char const* in, char const* file, int line) const
+{
+    expectFields(QString(names).replace(u" "_s, u"= "_s) + u'=', in, file, line);
+}
+
+QList<QAction*> TestSession::menuItems() const
 {
     QList<QAction*> all;
-    for (QAction* const menu :
-         static_cast<QMainWindow*>(QApplication::activeWindow())->menuBar()->actions()) {
+    auto* const front = qobject_cast<QMainWindow*>(QApplication::activeWindow());
+    for (QAction* const menu : front->menuBar()->actions()) {
         all += menu;
         all += menu->menu() != nullptr ? menu->menu()->actions() : QList<QAction*>();
     }
     return all;
 }
 
-QString Desk::show(QByteArray const& names, char const* in) const
+QAction* TestSession::menuItem(char const* name) const
 {
-    QStringList shown;
-    for (QByteArray const& name : names.split(' ')) {
-        auto const* const list = widget<QTableView>(name, in);
-        shown += list != nullptr ? Rows(*list->model()) : widget(name, in)->property("text").toString();
-    }
-    return shown.join(u'|');
+    QList<QAction*> const all = menuItems();
+    auto const isMeant = [name](QAction const* item) { return item->objectName() == QLatin1String(name); };
+    return *std::find_if(all.begin(), all.end(), isMeant);
 }
 
-void Desk::activate(char const* name) const
+void TestSession::activate(char const* name) const
 {
     window(name)->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(window(name)));
 }
 
-void Desk::choose(char const* item) const
+QLineEdit* TestSession::enterField(QString const& name) const
 {
-    QList<QAction*> const all = menus();
-    auto const isMeant = [item](QAction const* action) {
-        return action->objectName() == QLatin1String(item);
-    };
-    (*std::find_if(all.begin(), all.end(), isMeant))->trigger();
+    widget(name)->setFocus(Qt::TabFocusReason);
+    QCoreApplication::processEvents();
+    return field(name);
 }
 
-void Desk::paste(QByteArray const& text) const
+void TestSession::paste(QString const& text) const
 {
     QGuiApplication::clipboard()->setText(text);
-    choose("EditPaste");
+    chooseCommand("EditPaste");
 }
 
-void Desk::press(char const* name, char const* in) const
+void TestSession::click(QString const& name, char const* in) const
 {
     QTest::mouseClick(widget(name, in), Qt::LeftButton);
 }
 
-void Desk::type(char const* field, QByteArray const& text, char const* in) const
+void TestSession::clickOnScreen(QString const& name) const
 {
-    widget(field, in)->setFocus();
-    widget<QLineEdit>(field, in)->selectAll();
-    QTest::keyClick(widget(field, in), Qt::Key_Delete);
-    QTest::keyClicks(widget(field, in), QString::fromLatin1(text).replace(u'\n', u'\r'));
+    QPoint const place = widget(name)->mapTo(window(), widget(name)->rect().center());
+    QTest::mouseClick(window()->windowHandle(), Qt::LeftButton, {}, place);
 }
 
-void Desk::gradeAll(char const* points, std::vector<char const*> const& missed) const
+void TestSession::type(QString const& name, QString const& text, char const* in) const
+{
+    widget(name, in)->setFocus();
+    field(name, in)->selectAll();
+    QTest::keyClick(widget(name, in), Qt::Key_Delete);
+    QTest::keyClicks(widget(name, in), QString(text).replace(u'\n', u'\r'));
+}
+
+void TestSession::enterScores(QString const& points, QStringList const& missed) const
 {
     type("total", points);
-    for (char const* const score : missed) {
-        type("missed", score + "\n"_ba);
+    for (QString const& score : missed) {
+        type("missed", score + u'\n');
     }
 }
 
-void Desk::write(QByteArray const& fields) const
+void TestSession::setFields(QString const& fields) const
 {
-    for (QByteArray const& field : fields.split(' ')) {
-        QList<QByteArray> const parts = field.split('=');
-        static_cast<LineEdit*>(widget(parts[0]))->writeByProgram(parts[1]);
+    for (auto const& [name, text] : NamesAndTexts(fields)) {
+        WriteByProgram(widget(name), text);
     }
 }
 
-void Compose(QLineEdit* field, char const* commit, char const* preedit)
+void SendInputMethod(QLineEdit* field, char const* commit, char const* composing)
 {
-    QInputMethodEvent event(QLatin1String(preedit), {});
-    event.setCommitString(QLatin1String(commit));
+    QInputMethodEvent event(QString::fromUtf8(composing), {});
+    event.setCommitString(QString::fromUtf8(commit));
     QCoreApplication::sendEvent(field, &event);
 }
 
-QByteArray Content(QString const& path)
+QByteArray ContentOf(QString const& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void WriteFile(QString const& path, QByteArray const& bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), bytes.size());
 }
 
 int RunTests(QObject& tests, int count, char** arguments)
 {
     QTemporaryDir const home; // no test meets the files of a user or of another test
     qputenv("HOME", QFile::encodeName(home.path()));
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // neither needs a display nor takes a developer's keyboard
+    }
     QStandardPaths::setTestModeEnabled(true);
     RuntimeInit();
     RuntimePerformInitializers();

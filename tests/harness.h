@@ -1,8 +1,8 @@
 #pragma once
 
 #include "frame/mainscreen.h"
+#include "platform/doors.h"
 #include "platform/message_box.h"
-#include "platform/qt/desktop_doors.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -13,70 +13,117 @@
 
 using namespace Qt::StringLiterals;
 
-inline constexpr char const* kNoPoints = "You must enter a positive value for the Number of Points.";
-inline constexpr char const* kTooMany = "The number missed should not exceed the total number of points.";
-inline constexpr char const* kRepaired = "An attempt was made to fix the grading scale.";
-inline constexpr char const* kTallies = "agrade bgrade cgrade dgrade fgrade";
-inline constexpr char const* kHistory = "ListBox1 ListBox2 ListBox3 ListBox4 ListBox5";
+inline constexpr char const* kNeedsPoints = "You must enter a positive value for the Number of Points.";
+inline constexpr char const* kTooManyMissed =
+    "The number missed should not exceed the total number of points.";
+inline constexpr char const* kScaleRepaired =
+    "An attempt was made to fix the grading scale. You should check "
+    "these modifications before saving the settings.";
 
-/// The fields of the scale in their order, as Desk::show takes them.
-inline constexpr char const* kFields = "aplusmax aplusmin amax amin aminusmax aminusmin "
-                                       "bplusmax bplusmin bmax bmin bminusmax bminusmin "
-                                       "cplusmax cplusmin cmax cmin cminusmax cminusmin "
-                                       "dplusmax dplusmin dmax dmin dminusmax dminusmin";
+inline constexpr char const* kTallyFields = "agrade bgrade cgrade dgrade fgrade";
+inline constexpr char const* kHistoryLists = "ListBox1 ListBox2 ListBox3 ListBox4 ListBox5";
 
-/// A main window as it stands after a start, with every way out of the process scripted. A message box that
-/// was not expected fails the test and is answered with No; one that did not come fails it too.
-class Desk {
-    Q_DISABLE_COPY(Desk)
+/// The 24 scale fields in their order.
+inline constexpr char const* kScaleFieldNames = "aplusmax aplusmin amax amin aminusmax aminusmin "
+                                                "bplusmax bplusmin bmax bmin bminusmax bminusmin "
+                                                "cplusmax cplusmin cmax cmin cminusmax cminusmin "
+                                                "dplusmax dplusmin dmax dmin dminusmax dminusmin";
+
+/// The program from its start to its end, with every message box and dialog answered by the test. A box that
+/// the test did not expect, or a second one at once, fails it and is answered with No; an expected box that does not come fails it too.
+class TestSession {
+    Q_DISABLE_COPY(TestSession)
 
 public:
-    /// A box starts with this text and is answered so; a notice has no answer.
+    /// A box whose text starts so, and the answer to it; a notice has no answer.
     struct Box {
         std::string text;
         int answer = 0;
     };
 
-    explicit Desk(std::vector<Box> boxes = {});
-    ~Desk();
+    explicit TestSession(std::vector<Box> boxes = {});
+    ~TestSession();
 
-    void expect(std::string const& text, int answer = 0) { expected_.push_back({text, answer}); }
-    [[nodiscard]] bool allSeen() const { return expected_.empty(); }
+    void expectBox(std::string const& text, int answer = 0) { expectedBoxes_.push_back({text, answer}); }
+    /// Whether all expected boxes have come.
+    [[nodiscard]] bool allBoxesSeen() const { return expectedBoxes_.empty(); }
+    /// From now on boxes, or dialogs, are the real ones of the desktop.
+    static void useRealMessageBoxes();
+    static void useRealDialogs();
+
     [[nodiscard]] class mainscreen& form() const { return ::mainscreen(); }
     [[nodiscard]] QMainWindow* window(char const* name = "mainscreen") const;
     template <class Type = QWidget>
-    [[nodiscard]] Type* widget(char const* name, char const* in = "mainscreen") const
+    [[nodiscard]] Type* widget(QString const& name, char const* in = "mainscreen") const
     {
-        return window(in)->findChild<Type*>(QLatin1String(name));
+        return window(in)->findChild<Type*>(name);
     }
-    /// What these controls hold, with "|" between them; rows of a list end with ";", cells with ",".
-    [[nodiscard]] QString show(QByteArray const& names, char const* in = "mainscreen") const;
-    /// The menus of the window in front, each with its items behind it.
-    [[nodiscard]] QList<QAction*> menus() const;
-    [[nodiscard]] QString at(char const* name) const { return folder_.filePath(QLatin1String(name)); }
+    [[nodiscard]] QLineEdit* field(QString const& name, char const* in = "mainscreen") const
+    {
+        return widget<QLineEdit>(name, in);
+    }
+
+    /// The text of a field, a label or a button. A list's rows are separated by ";", its cells by ",".
+    [[nodiscard]] QString text(QString const& name, char const* in = "mainscreen") const;
+    /// The texts of several controls, separated by "|".
+    [[nodiscard]] QString texts(QString const& names, char const* in = "mainscreen") const;
+    /// Fails for each control that does not hold its text: "percentage=29 lettergrade=F correct=". A text
+    /// ends in front of the next blank that is followed by a name and "=".
+    void expectFields(QString const& expected, char const* in = "mainscreen",
+                      char const* file = __builtin_FILE(), int line = __builtin_LINE()) const;
+    /// Fails for each of these controls that is not empty: "percentage ListBox1".
+    void expectEmpty(QString const& names, char const* in = "mainscreen", char const* file = __builtin_FILE(),
+                     int line = __builtin_LINE()) const;
+
+    /// The menus of the window in front, each followed by its items.
+    [[nodiscard]] QList<QAction*> menuItems() const;
+    [[nodiscard]] QAction* menuItem(char const* name) const;
+    /// A path in a folder of this session's own.
+    [[nodiscard]] QString pathOf(char const* name) const { return folder_.filePath(QLatin1String(name)); }
 
     /// Brings the window to the front and waits until it is active.
     void activate(char const* name = "mainscreen") const;
-    void choose(char const* item) const;
-    void paste(QByteArray const& text) const;
-    void press(char const* name, char const* in = "mainscreen") const;
+    /// Moves the focus to a field as Tab does; its GotFocus has been raised when this returns.
+    QLineEdit* enterField(QString const& name) const;
+    void chooseCommand(char const* item) const { menuItem(item)->trigger(); }
+    void paste(QString const& text) const;
+    void click(QString const& name, char const* in = "mainscreen") const;
+    /// Clicks as the desktop reports it: to the window, which passes it on to what is under the pointer.
+    void clickOnScreen(QString const& name) const;
     /// Replaces a field's text by typing, key by key; a line end is a press of Return.
-    void type(char const* field, QByteArray const& text, char const* in = "mainscreen") const;
-    void gradeAll(char const* points, std::vector<char const*> const& missed) const;
+    void type(QString const& name, QString const& text, char const* in = "mainscreen") const;
+    /// Types the number of points, then each number missed with Return.
+    void enterScores(QString const& points, QStringList const& missed) const;
     /// Writes texts as the program does: "amin=80 amax=97".
-    void write(QByteArray const& fields) const;
+    void setFields(QString const& fields) const;
 
-    std::string browsed;                  ///< the last address that was to be opened
-    QString chosen;                       ///< the file that the dialogs choose; empty cancels them
-    std::vector<FileDialogRequest> asked; ///< the dialogs that have come; of a print dialog all is empty
+    std::string openedAddress;                   ///< the last address that was to be opened
+    QString fileToChoose;                        ///< the file that the dialogs choose; empty cancels them
+    std::vector<FileDialogRequest> dialogs;      ///< the dialogs that came; for a print dialog all is empty
+    std::function<void(QPrinter&)> setUpPrinter; ///< what is done in the print dialog, if anything
+    std::function<void()> whileBoxIsUp;          ///< runs before a box is answered, if anything
+    std::string lastBox;                         ///< the text of the last box
 
 private:
-    std::vector<Box> expected_;
+    std::vector<Box> expectedBoxes_;
+    bool isBoxUp_ = false;
     QTemporaryDir folder_;
 };
 
-void Compose(QLineEdit* field, char const* commit, char const* preedit = "");
-QByteArray Content(QString const& path);
+/// Adds a row of test data for each row of a table; a row has a name. QFETCH gets a pointer to it.
+template <class Row, std::size_t count>
+void AddRows(Row const (&table)[count])
+{
+    QTest::addColumn<Row const*>("row");
+    for (Row const& row : table) {
+        QTest::newRow(row.name) << &row;
+    }
+}
+
+/// Sends what an input method sends: text to insert, and text still in composition.
+void SendInputMethod(QLineEdit* field, char const* commit, char const* composing = "");
+QByteArray ContentOf(QString const& path);
+void WriteFile(QString const& path, QByteArray const& bytes);
 int RunTests(QObject& tests, int count, char** arguments);
 
 #define GRADELOOM_TEST(Class)                                                                                \

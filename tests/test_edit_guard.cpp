@@ -1,130 +1,212 @@
 #include "tests/harness.h"
 
-#include <QMessageBox>
-#include <QTimer>
+#include <QPushButton>
 
 using namespace std::string_literals;
 
 namespace {
 
 constexpr char const* kQuestion =
-    "You are about to change the grading scale in the middle of entering grades.";
+    "You are about to change the grading scale in the middle of entering grades. This will cause Gradeloom to "
+    "delete the data you have entered so far. Are you sure you want to do this?";
 
-constexpr char const* kBands[] = {"an A+", "an A", "an A-", "a B+", "a B", "a B-",
-                                  "a C+",  "a C",  "a C-",  "a D+", "a D", "a D-"};
+struct Boundary {
+    char const* name; // the band above, as the notice names it
+    char const* below;
+    char const* upper;
+    char const* lower;
+    char const* focus;
+} const kBoundaries[] = {
+    {"an A+", "an A",  "aplusmin",  "amax",      "amin"     },
+    {"an A",  "an A-", "amin",      "aminusmax", "aminusmin"},
+    {"an A-", "a B+",  "aminusmin", "bplusmax",  "bplusmin" },
+    {"a B+",  "a B",   "bplusmin",  "bmax",      "bmin"     },
+    {"a B",   "a B-",  "bmin",      "bminusmax", "bminusmin"},
+    {"a B-",  "a C+",  "bminusmin", "cplusmax",  "cplusmin" },
+    {"a C+",  "a C",   "cplusmin",  "cmax",      "cmin"     },
+    {"a C",   "a C-",  "cmin",      "cminusmax", "cminusmin"},
+    {"a C-",  "a D+",  "cminusmin", "dplusmax",  "dplusmin" },
+    {"a D+",  "a D",   "dplusmin",  "dmax",      "dmin"     },
+    {"a D",   "a D-",  "dmin",      "dminusmax", "dminusmin"},
+};
 
-/// Moves the focus here as Tab does; the gain of it has then been told.
-QLineEdit* Enter(Desk const& desk, char const* name)
+std::string Notice(std::string const& above, std::string const& below)
 {
-    desk.widget(name)->setFocus(Qt::TabFocusReason);
-    QCoreApplication::processEvents();
-    return desk.widget<QLineEdit>(name);
+    return "The difference between the minimum for " + above + " and the maximum for " + below +
+           " must be equal to one.";
+}
+
+/// Presses a key in the field, which brings the question; the answer is No.
+void PressAndDecline(TestSession& session, QLineEdit* field, Qt::Key key)
+{
+    session.expectBox(kQuestion, kNo);
+    QTest::keyClick(field, key);
 }
 
 } // namespace
 
-/// Entered data is protected from edits of the scale, and the boundaries are checked as the focus moves down it.
+/// Entered data is protected from edits of the scale, and the boundaries are checked as the focus moves down.
 class EditGuard final : public QObject {
     Q_OBJECT
 
 private slots:
-    void noPutsTheTextBackOnceForEachGainOfTheFocus()
+    void aKeyInAnyScaleFieldAsksFirstAndNoPutsTheTextBack()
     {
-        Desk desk;
-        QLineEdit* const field = Enter(desk, "bmax");
-        auto const declined = [&](Qt::Key key) {
-            desk.expect(kQuestion, kNo);
-            QTest::keyClick(field, key);
-            return desk.show("bmax fileresetfield numstudents");
-        };
-        desk.write("total=40");
-        QTest::keyClick(field, Qt::Key_Return);
-        QCOMPARE(declined(Qt::Key_5), "5||1"_L1); // the focus from before the first entry has stored nothing
-        Enter(desk, "cmax");
-        Enter(desk, "bmax")->deselect();
-        QCOMPARE(declined(Qt::Key_Left), "5|5|1"_L1); // changes nothing: the stored text stays
-        QCOMPARE(declined(Qt::Key_6), "5||1"_L1);
-        QVERIFY(field->cursorPosition() == 1 && !field->hasSelectedText());
-        QCOMPARE(declined(Qt::Key_6), "56||1"_L1); // the second one stands
-        Enter(desk, "bminusmax");
-        Enter(desk, "bmax");
-        QCOMPARE(declined(Qt::Key_Backspace), "56||1"_L1);
-        desk.write("amax=100 dmax=0.9");
-        desk.expect(kQuestion, kNo);
-        Enter(desk, "amax")->deselect();
-        QTest::keyClick(desk.widget("amax"), Qt::Key_5); // no room for it
-        desk.expect(kQuestion, kNo);
-        QTest::keyClick(Enter(desk, "dmax"), Qt::Key_5); // a text of zero is not put back
-        QCOMPARE(desk.show("amax dmax"), "100|5"_L1);
-    }
-
-    void aChangeWithoutAKeyIsPutBackAndYesThrowsTheEntriesAway()
-    {
-        Desk desk;
-        desk.gradeAll("40", {"4", "8"});
-        Enter(desk, "cmax");
-        desk.paste("12");
-        Enter(desk, "bmax");
-        desk.choose("EditCut");
-        Compose(Enter(desk, "dmax"), "9");
-        QCOMPARE(desk.show("cmax bmax dmax numstudents fileresetfield"), "77|87|67|2|"_L1);
-        desk.expect(kQuestion, kYes);
-        QTest::keyClicks(Enter(desk, "aplusmin"), u"96"_s); // one question for the two keys
-        QCOMPARE(desk.show("aplusmin total pointstemp problem fileresetfield"), "96|40|40||"_L1);
-        QCOMPARE(desk.show("numstudents average agrade percentage correct ListBox1 ListBox4"), "||||||"_L1);
-    }
-
-    void aBoundaryThatIsOffComesOutInWholeNumbers()
-    {
-        QByteArrayList const all = QByteArray(kFields).split(' ');
-        for (qsizetype band = 1; band < 12; ++band) {
-            Desk desk;
-            QByteArray const fields = all[2 * band - 1] + ' ' + all[2 * band];
-            for (char const* const lower : {"49.5", "49.6", "49.4", "words"}) {
-                bool const isOff = lower != "49.5"_L1;
-                desk.write(QByteArray(fields).replace(" ", "=50.5 ") + '=' + lower);
-                if (isOff) {
-                    desk.expect("The difference between the minimum for "s + kBands[band - 1] +
-                                " and the maximum for " + kBands[band] + " must be equal to one.");
-                }
-                desk.press(all[2 * band + 1]);
-                QCoreApplication::processEvents();
-                QVERIFY(desk.allSeen());
-                QCOMPARE(desk.show(fields), isOff ? "51|50"_L1 : "50.5|49.5"_L1);
-                Enter(desk, "total");
-            }
+        TestSession session;
+        session.enterScores("40", {"4"});
+        for (QString const& name : QString(kScaleFieldNames).split(u' ')) {
+            QString const before = session.text(name);
+            QLineEdit* const field = session.enterField(name);
+            session.expectFields("fileresetfield=" + before);
+            session.whileBoxIsUp = [&] { session.expectFields(name + u'=' + before); };
+            field->deselect();
+            PressAndDecline(session, field, Qt::Key_Backspace);
+            session.expectFields(name + u'=' + before + " fileresetfield= numstudents=1"_L1);
+            QVERIFY(field->cursorPosition() == before.size() && !field->hasSelectedText());
         }
     }
 
-    void theNoticeComesBeforeTheNextKeyAndLosesNone()
+    void eachGainOfTheFocusPutsBackOneChange()
     {
-        Desk const desk;
-        desk.write("aplusmin=95");
-        Enter(desk, "amax");
-        PlatformDoors().messageBox = ShowMessageBox; // the real box, closed by Return
-        int boxes = 0;
-        QTimer closer;
-        connect(&closer, &QTimer::timeout, this, [&boxes] {
-            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                ++boxes;
-                QTest::keyClick(box, Qt::Key_Return);
+        TestSession session;
+        session.enterScores("40", {"4"});
+        QLineEdit* const field = session.enterField("bmax");
+        PressAndDecline(session, field, Qt::Key_Left); // changes nothing: the stored text stays
+        session.expectFields("bmax=87 fileresetfield=87");
+        PressAndDecline(session, field, Qt::Key_6);
+        PressAndDecline(session, field, Qt::Key_6);
+        session.expectFields("bmax=876");
+        session.enterField("bminusmax");
+        session.enterField("bmax");
+        PressAndDecline(session, field, Qt::Key_Backspace);
+        session.expectFields("bmax=876");
+    }
+
+    void aFocusFromBeforeTheFirstEntryHasStoredNothing()
+    {
+        TestSession session;
+        session.setFields("total=40");
+        QLineEdit* const field = session.enterField("bmax");
+        QTest::keyClick(field, Qt::Key_Return);
+        PressAndDecline(session, field, Qt::Key_5);
+        session.expectFields("bmax=5 numstudents=1");
+    }
+
+    void aStoredTextBelowOneIsNotPutBack()
+    {
+        TestSession session;
+        session.enterScores("40", {"4"});
+        for (char const* const stored : {"0.9", "-3", "", "word"}) {
+            session.setFields("dmax="_L1 + stored);
+            PressAndDecline(session, session.enterField("dmax"), Qt::Key_5);
+            session.expectFields("dmax=5");
+            session.enterField("cmax");
+        }
+        session.setFields("dmax=1");
+        PressAndDecline(session, session.enterField("dmax"), Qt::Key_5);
+        session.expectFields("dmax=1");
+    }
+
+    void aKeyWithoutRoomAsksToo()
+    {
+        TestSession session;
+        session.enterScores("40", {"4"});
+        session.setFields("amax=100");
+        session.enterField("amax")->deselect();
+        PressAndDecline(session, session.field("amax"), Qt::Key_5);
+        session.expectFields("amax=100");
+    }
+
+    void aChangeWithoutAKeyIsPutBackWithoutAQuestion()
+    {
+        TestSession const session;
+        session.enterScores("40", {"4", "8"});
+        session.enterField("cmax");
+        session.paste("12");
+        session.enterField("bmax");
+        session.chooseCommand("EditCut");
+        session.expectFields("cmax=77 bmax=87 numstudents=2 fileresetfield=");
+    }
+
+    void yesThrowsTheEntriesAwayAndKeepsThePoints()
+    {
+        TestSession session;
+        session.enterScores("40", {"4", "8"});
+        session.setFields("missed=7 foundaproblem=x");
+        session.expectBox(kQuestion, kYes);
+        QTest::keyClicks(session.enterField("aplusmin"), u"96"_s); // one question for the two keys
+        session.expectFields("aplusmin=96 total=40 pointstemp=40 missed=7 problem= foundaproblem=x");
+        session.expectEmpty("fileresetfield numstudents average EditField1 percentage lettergrade lastmissed "
+                            "correct agrade bgrade cgrade dgrade fgrade");
+        session.expectEmpty(kHistoryLists);
+    }
+
+    void aBoundaryThatIsOffComesOutInWholeNumbers_data() { AddRows(kBoundaries); }
+
+    void aBoundaryThatIsOffComesOutInWholeNumbers()
+    {
+        QFETCH(Boundary const*, row);
+        TestSession session;
+        auto const enter = [&](QString const& texts, QString const& expected) {
+            QString const fields = row->upper + u"=%1 "_s + row->lower + u"=%2"_s;
+            QString const after = fields.arg(expected.section(u' ', 0, 0), expected.section(u' ', 1));
+            session.setFields(fields.arg(texts.section(u' ', 0, 0), texts.section(u' ', 1)));
+            if (texts != expected) {
+                session.expectBox(Notice(row->name, row->below));
             }
-        });
-        closer.start(5);
-        QTest::keyClick(desk.widget("amax"), Qt::Key_Tab);
-        QTest::keyClicks(desk.widget("amin"), u"94"_s); // the first key finds the notice still to come
-        QTRY_COMPARE(boxes, 1);
-        desk.activate();
-        QCOMPARE(desk.show("aplusmin amax amin"), "95|94|94"_L1);
-        QCOMPARE(QApplication::focusWidget(), desk.widget("amin"));
-        QTest::qWait(20); // no second notice when the window has come back
-        QCOMPARE(boxes, 1);
-        desk.write("aplusmin=96");
-        Enter(desk, "amax");
-        QTest::keyClick(desk.widget("amax"), Qt::Key_Tab);
-        QTest::keyClick(desk.widget("amin"), Qt::Key_Tab); // goes ahead of the notice and selects its field
-        QTRY_COMPARE(boxes, 2);
-        QCOMPARE(qobject_cast<QLineEdit*>(desk.widget("aminusmax"))->selectedText(), "92"_L1);
+            session.whileBoxIsUp = [&] { session.expectFields(after); }; // mended before it is reported
+            session.click(row->focus);
+            QCoreApplication::processEvents();
+            QVERIFY(session.allBoxesSeen());
+            session.expectFields(after);
+            session.enterField("total");
+        };
+        enter("50.5 49.5", "50.5 49.5");
+        enter("50.5 49.6", "51 50");
+        enter("50.5 49.4", "51 50");
+        enter("50.5 words", "51 50");
+        enter("6e1 59", "6e1 59"); // an exponent counts here
+    }
+
+    void aTextIsStoredAfterTheNoticeOfItsBoundary()
+    {
+        TestSession session;
+        session.enterScores("40", {"4"});
+        session.setFields("aplusmin=95");
+        session.expectBox(Notice("an A+", "an A"));
+        session.whileBoxIsUp = [&] { session.expectFields("fileresetfield="); };
+        session.enterField("amin");
+        session.expectFields("aplusmin=95 amax=94 fileresetfield=93");
+    }
+
+    void noticesOfTwoFieldsComeOneAfterTheOther()
+    {
+        TestSession session({{Notice("an A+", "an A")}, {Notice("an A", "an A-")}});
+        session.setFields("aplusmin=95 aminusmax=80");
+        session.whileBoxIsUp = [&] { QTest::keyClick(session.widget("total"), Qt::Key_Shift); };
+        session.widget("amin")->setFocus();
+        session.enterField("aminusmin");
+    }
+
+    void aNoticeThatIsDueComesBeforeAnInputMethodsText()
+    {
+        TestSession session({{Notice("an A+", "an A")}});
+        session.setFields("aplusmin=95");
+        session.whileBoxIsUp = [&] { session.expectFields("amin=93"); };
+        session.widget("amin")->setFocus();
+        SendInputMethod(session.field("amin"), "5");
+        session.expectFields("amin=935");
+    }
+
+    void aNoticeThatIsDueComesBeforeAPressOfAButton()
+    {
+        TestSession session({{Notice("an A+", "an A")}});
+        session.setFields("aplusmin=95");
+        auto const* const button = session.widget<QPushButton>("PushButton3");
+        session.whileBoxIsUp = [&] { QVERIFY(!button->isDown()); };
+        session.widget("amin")->setFocus();
+        session.clickOnScreen("PushButton3");
+        session.expectFields("aplusmin=98 amax=97");
     }
 };
 

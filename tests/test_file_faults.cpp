@@ -1,6 +1,6 @@
 #include "tests/harness.h"
 
-#include "platform/qt/save_file.h"
+#include "platform/files.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -60,6 +60,14 @@ extern "C" int open64(char const* path, int flags, ...) // NOLINT(cert-dcl50-cpp
 
 namespace {
 
+/// Writes these lines; returns why that failed, or nothing.
+QString Save(QString const& path, QByteArray const& text)
+{
+    TextOutputStream stream = FolderItem(path.toStdString()).CreateTextFile();
+    stream.WriteLine(text.chopped(1).toStdString());
+    return QString::fromStdString(stream.Close());
+}
+
 bool SaysWhy(QString const& reason)
 {
     return !reason.isEmpty() && !reason.contains(u"Unknown error"_s);
@@ -75,15 +83,15 @@ bool FailCall(int number, bool existed, QStringList& told)
 {
     QTemporaryDir const folder;
     QString const path = folder.filePath(u"scale"_s);
-    bool const isReady = !existed || SaveWhole(path, "old\n").isEmpty();
+    bool const isReady = !existed || Save(path, "old\n").isEmpty();
     callsUntilFault = number;
-    QString const reason = SaveWhole(path, "new\n");
+    QString const reason = Save(path, "new\n");
     bool const wasReached = callsUntilFault == 0;
     callsUntilFault = 0;
     bool const isAsBefore =
-        Content(path) == (existed ? "old\n" : "") && Names(folder.path()).size() == (existed ? 1 : 0);
-    bool const isRight = reason.isEmpty() ? Content(path) == "new\n" : isAsBefore && SaysWhy(reason);
-    bool const savesAgain = SaveWhole(path, "next\n").isEmpty() && Content(path) == "next\n";
+        ContentOf(path) == (existed ? "old\n" : "") && Names(folder.path()).size() == (existed ? 1 : 0);
+    bool const isRight = reason.isEmpty() ? ContentOf(path) == "new\n" : isAsBefore && SaysWhy(reason);
+    bool const savesAgain = Save(path, "next\n").isEmpty() && ContentOf(path) == "next\n";
     if (!isReady || !isRight || !savesAgain) {
         QTest::qFail(qPrintable(u"call %1: %2"_s.arg(number).arg(reason)), __FILE__, __LINE__);
     }
@@ -121,16 +129,16 @@ private slots:
             QSKIP("needs the right to mount a small file system");
         }
         QString const path = folder.filePath(u"scale"_s);
-        QString const first = SaveWhole(path, "old\n");
-        QString const tooLarge = SaveWhole(path, QByteArray(100'000, 'x'));
+        QString const first = Save(path, "old\n");
+        QString const tooLarge = Save(path, QByteArray(100'000, 'x'));
         QFile filler(folder.filePath(u"filler"_s));
         bool const opened = filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
         while (filler.write(QByteArray(4096, 'x')) == 4096) {
         }
-        QString const small = SaveWhole(path, "new\n");
-        QByteArray const kept = Content(path);
+        QString const small = Save(path, "new\n");
+        QByteArray const kept = ContentOf(path);
         filler.remove();
-        QString const last = SaveWhole(path, "next\n");
+        QString const last = Save(path, "next\n");
         bool const isTidy = Names(folder.path()) == QStringList("scale");
         umount2(mountPoint.constData(), MNT_DETACH);
         QVERIFY(opened && first.isEmpty() && last.isEmpty() && kept == "old\n" && isTidy);
@@ -141,37 +149,38 @@ private slots:
     {
         QTemporaryDir const folder;
         QString const path = folder.filePath(u"scale"_s), link = folder.filePath(u"link"_s);
-        QCOMPARE(SaveWhole(path, "old\n"), QString());
+        QCOMPARE(Save(path, "old\n"), QString());
         QVERIFY(QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner) && QFile::link(path, link));
-        QCOMPARE(SaveWhole(link, "new\n"), QString());
-        QVERIFY(QFileInfo(link).isSymLink() && Content(path) == "new\n");
+        QCOMPARE(Save(link, "new\n"), QString());
+        QVERIFY(QFileInfo(link).isSymLink() && ContentOf(path) == "new\n");
         QCOMPARE(QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
         for (int const length : {248, 248, 249, 255, 256}) { // 255 bytes is the longest name of a file
             QString const longName = folder.filePath(QString(length, u'n'));
-            QString const reason = SaveWhole(longName, "text\n");
-            QVERIFY(reason.isEmpty() ? Content(longName) == "text\n" : SaysWhy(reason) && length > 248);
+            QString const reason = Save(longName, "text\n");
+            QVERIFY(reason.isEmpty() ? ContentOf(longName) == "text\n" : SaysWhy(reason) && length > 248);
         }
-        QVERIFY(SaysWhy(SaveWhole(folder.path(), "text\n")));
+        QVERIFY(SaysWhy(Save(folder.path(), "text\n")));
     }
 
     void aFileThatIsNoScaleIsToldAtOnceAndChangesNothing()
     {
-        Desk desk;
-        QVERIFY(QDir().mkdir(desk.at("folder")));
-        QCOMPARE(mkfifo(QFile::encodeName(desk.at("pipe")).constData(), 0600), 0);
-        SaveWhole(desk.at("65537"), QByteArray(65537, '1'));
-        QVERIFY(QFile(desk.at("huge")).open(QIODevice::WriteOnly) &&
-                QFile::resize(desk.at("huge"), 300'000'000));
-        for (QString const& path : {desk.at("missing"), desk.at("folder"), desk.at("pipe"), desk.at("65537"),
-                                    desk.at("huge"), u"/dev/zero"_s, u"/dev/null"_s}) {
-            desk.chosen = path;
-            desk.expect("The file \"" + QFileInfo(path).fileName().toStdString() +
-                        "\" could not be opened: ");
+        TestSession session;
+        QVERIFY(QDir().mkdir(session.pathOf("folder")));
+        QCOMPARE(mkfifo(QFile::encodeName(session.pathOf("pipe")).constData(), 0600), 0);
+        WriteFile(session.pathOf("65537"), QByteArray(65537, '1'));
+        QVERIFY(QFile(session.pathOf("huge")).open(QIODevice::WriteOnly) &&
+                QFile::resize(session.pathOf("huge"), 300'000'000));
+        for (QString const& path :
+             {session.pathOf("missing"), session.pathOf("folder"), session.pathOf("pipe"),
+              session.pathOf("65537"), session.pathOf("huge"), u"/dev/zero"_s, u"/dev/null"_s}) {
+            session.fileToChoose = path;
+            session.expectBox("The file \"" + QFileInfo(path).fileName().toStdString() +
+                              "\" could not be opened: ");
             QElapsedTimer timer;
             timer.start();
-            desk.choose("FileOpen");
+            session.chooseCommand("FileOpen");
             QVERIFY(timer.elapsed() < 2000); // it does not wait for a pipe or read a device to its end
-            QCOMPARE(desk.show("aplusmax amin dminusmin"), "100|93|60"_L1);
+            QCOMPARE(session.texts("aplusmax amin dminusmin"), "100|93|60"_L1);
         }
     }
 };

@@ -1,64 +1,87 @@
 #include "tests/harness.h"
 
+#include <QScrollBar>
+
 namespace {
 
-constexpr char const* kQuestion = "Gradeloom has found problems with the grading scale which must be fixed";
-QByteArray const kNines(400, '9');
+constexpr char const* kQuestion =
+    "Gradeloom has found problems with the grading scale which must be fixed to continue. Would you like "
+    "Gradeloom to fix them for you?";
+constexpr char const* kResultFields =
+    "percentage lettergrade lastmissed numstudents average EditField1 agrade bgrade cgrade dgrade fgrade "
+    "ListBox1 ListBox2 ListBox3 ListBox4 ListBox5";
+char const* const kNines = "99999999999999999999999999"; // more than an Integer holds
 
 // clang-format off
-struct {
+struct Score {
+    char const* name;
+    char const* points;
     char const* field;
-    QByteArray points, typed;
-    char const* box;
-    char const* results; // the percentage, the letter, the last missed, missed, correct, entries, sum, average
+    char const* typed;
+    char const* notice;   // empty: an entry is made
+    char const* afterwards;
 } const kScores[] = {
-    {"missed",  "100",   "71",     "",        "29|F|71||29|1|28|28"},   // 28.999999999999996 in doubles
-    {"missed",  "1,000", "105",    "",        "89.5|A-|105||895|1|89|89"},
-    {"missed",  "219",   "23",     "",        "89.49772|B+|23||196|1|89|89"},
-    {"correct", "219",   "196",    "",        "89.49|B+|23|23||1|89|89"},
-    {"correct", "30",    "33",     "",        "110|A+|-3|-3||1|110|110"},
-    {"missed",  "37.5",  "37",     "",        "0|F|37||0|1|0|0"},       // half a point doesn't count
-    {"missed",  "37.5",  "37.5",   kTooMany,  "|||||||"},
-    {"correct", "30",    "-1",     kTooMany,  "||||-1|||"},
-    {"missed",  "30",    kNines,   kTooMany,  "|||||||"},
-    {"missed",  kNines,  "0",      "",        "100|A+|0||9223372036854775808|1|100|100"},
-    {"missed",  "",      "5",      kNoPoints, "|||5||||"},
-    {"missed",  "0.4",   "0",      kNoPoints, "|||0||||"},              // not a whole point to divide by
-    {"correct", "0.5e3", "5",      kNoPoints, "||||5|||"},              // 500 as a test, 0.5 to divide by
+    {"29 % is 28.999999999999996 in doubles", "100",   "missed",  "71",  "",
+     "percentage=29 lettergrade=F lastmissed=71 missed= correct=29 average=28 EditField1=28"},
+    {"a comma of thousands",                  "1,000", "missed",  "105", "",
+     "percentage=89.5 lettergrade=A- lastmissed=105 missed= correct=895 average=89 EditField1=89"},
+    {"just below a half",                     "219",   "missed",  "23",  "",
+     "percentage=89.49772 lettergrade=B+ lastmissed=23 missed= correct=196 average=89 EditField1=89"},
+    {"just below a half, as correct",         "219",   "correct", "196", "",
+     "percentage=89.49 lettergrade=B+ lastmissed=23 missed=23 correct= average=89 EditField1=89"},
+    {"more correct than points",              "30",    "correct", "33",  "",
+     "percentage=110 lettergrade=A+ lastmissed=-3 missed=-3 correct= average=110 EditField1=110"},
+    {"half a point of the test is dropped",   "37.5",  "missed",  "37",  "",
+     "percentage=0 lettergrade=F lastmissed=37 missed= correct=0 average=0 EditField1=0"},
+    {"nothing typed as missed",               "30",    "missed",  "",    "", "percentage=100 correct=30 missed="},
+    {"nothing typed as correct",              "30",    "correct", "",    "", "percentage=0 missed=30 correct="},
+    {"the highest number of points",          kNines,  "missed",  "0",   "", "percentage=100 correct=9223372036854775808"},
+    {"more missed than whole points",         "37.5",  "missed",  "37.5", kTooManyMissed, "missed="},
+    {"a negative number correct",             "30",    "correct", "-1",   kTooManyMissed, "missed= correct=-1"},
+    {"far too many missed",                   "30",    "missed",  kNines, kTooManyMissed, "missed="},
+    {"no points",                             "",      "missed",  "5",    kNeedsPoints,   "missed=5"},
+    {"negative points",                       "-5",    "missed",  "0",    kNeedsPoints,   "missed=0"},
+    {"no whole point to divide by",           "0.4",   "missed",  "0",    kNeedsPoints,   "missed=0"},
+    {"500 as a test, 0.5 to divide by",       "0.5e3", "correct", "5",    kNeedsPoints,   "missed= correct=5"},
 };
 
-struct {
-    char const* scale;           // typed into the default scale
+struct Press {
+    char const* name;
+    char const* scale;
     char const* points;
     char const* missed;
-    std::vector<Desk::Box> boxes;
-    char const* after;           // the same field, the number of entries, missed
+    std::vector<TestSession::Box> boxes;
+    char const* afterwards;
 } const kPresses[] = {
-    {"amin=98",      "30",  "3",  {{kQuestion, kYes}, {kRepaired}},              "96|1|"},
-    {"amin=98",      "",    "3",  {{kQuestion, kYes}, {kRepaired}, {kNoPoints}}, "96||3"},
-    {"amin=98",      "30",  "31", {{kQuestion, kYes}, {kRepaired}, {kTooMany}},  "96||"},
-    {"amin=98",      "",    "3",  {{kQuestion, kNo}},                            "98||3"},
-    {"dminusmin=63", "30",  "3",  {{kQuestion, kYes}, {kRepaired}},              "61|1|"},
-    {"amin=97",      "30",  "3",  {{kRepaired}},                                 "97|1|"},
-    {"aminusmax=91", "30",  "3",  {{kRepaired}},                                 "92|1|"},
-    // the top goes to 100 in silence, but the field below is compared with what it was
-    {"aplusmax=105", "30",  "3",  {},                                            "100|1|"},
-    {"aplusmax=97",  "30",  "3",  {{kQuestion, kNo}},                            "100||3"},
+    {"Yes",                      "amin=98",       "30",  "3",  {{kQuestion, kYes}, {kScaleRepaired}},
+     "amin=96 numstudents=1 missed="},
+    {"Yes without points",       "amin=98",       "",    "3",  {{kQuestion, kYes}, {kScaleRepaired}, {kNeedsPoints}},
+     "amin=96 numstudents= missed=3"},
+    {"Yes with negative points", "amin=98",       "-30", "3",  {{kQuestion, kYes}, {kScaleRepaired}, {kNeedsPoints}},
+     "amin=96 numstudents= missed=3"},
+    {"Yes with too many missed", "amin=98",       "30",  "31", {{kQuestion, kYes}, {kScaleRepaired}, {kTooManyMissed}},
+     "amin=96 numstudents= missed="},
+    {"No",                       "amin=98",       "30",  "3",  {{kQuestion, kNo}}, "amin=98 numstudents= missed=3"},
+    {"the lowest minimum",       "dminusmin=63",  "30",  "3",  {{kQuestion, kYes}, {kScaleRepaired}},
+     "dminusmin=61 numstudents=1"},
+    {"equal bounds in order",    "amin=97",       "30",  "3",  {{kScaleRepaired}}, "aminusmax=96 numstudents=1"},
+    {"a gap is in order",        "aminusmax=91",  "30",  "3",  {{kScaleRepaired}}, "aminusmax=92 numstudents=1"},
+    {"a gap without points",     "aminusmax=91",  "",    "3",  {{kNeedsPoints}},   "aminusmax=91 numstudents="},
+    {"the top goes to 100",      "aplusmax=105",  "30",  "3",  {},                 "aplusmax=100 numstudents=1"},
+    {"the top as it was typed",  "aplusmax=97",   "30",  "3",  {{kQuestion, kNo}}, "aplusmax=100 numstudents="},
 };
 
-std::pair<char const*, int> const kMinimums[] = {
-    {"A+", 98}, {"A", 93}, {"A-", 90}, {"B+", 88}, {"B", 83}, {"B-", 80}, {"C+", 78},
-    {"C", 73}, {"C-", 70}, {"D+", 68}, {"D", 63}, {"D-", 60}, {"F", -1},
+struct Band {
+    char const* name;
+    int minimum, maximum;
+    char const* tally;
+} const kBands[] = {
+    {"A+", 98, 150, "agrade"}, {"A", 93, 97, "agrade"}, {"A-", 90, 92, "agrade"},
+    {"B+", 88, 89,  "bgrade"}, {"B", 83, 87, "bgrade"}, {"B-", 80, 82, "bgrade"},
+    {"C+", 78, 79,  "cgrade"}, {"C", 73, 77, "cgrade"}, {"C-", 70, 72, "cgrade"},
+    {"D+", 68, 69,  "dgrade"}, {"D", 63, 67, "dgrade"}, {"D-", 60, 62, "dgrade"}, {"F", 0, 59, "fgrade"},
 };
 // clang-format on
-
-constexpr char const* kState = "numstudents percentage lettergrade lastmissed average EditField1 problem";
-
-QString Undo(Desk const& desk, char const* names = kState)
-{
-    desk.choose("EditUndo");
-    return desk.show(names);
-}
 
 } // namespace
 
@@ -67,153 +90,222 @@ class Grading final : public QObject {
     Q_OBJECT
 
 private slots:
+    void aScoreBecomesAnEntryOrIsRefused_data() { AddRows(kScores); }
+
     void aScoreBecomesAnEntryOrIsRefused()
     {
-        for (auto const& [field, points, typed, box, results] : kScores) {
-            Desk desk(*box != '\0' ? std::vector<Desk::Box>{{box}} : std::vector<Desk::Box>());
-            if (QByteArray(field) == "correct") {
-                desk.press("checkcorrect");
-            }
-            desk.type("total", points);
-            desk.type(field, typed + '\n');
-            QString const shown =
-                desk.show("percentage lettergrade lastmissed missed correct numstudents average EditField1");
-            QCOMPARE(typed + u": "_s + shown, typed + u": "_s + results);
-            QCOMPARE(desk.show("total pointstemp"), QLatin1String(points + '|' + points));
-            QCOMPARE(desk.show("ListBox1").isEmpty(), *box != '\0');
+        QFETCH(Score const*, row);
+        bool const isEntry = *row->notice == '\0';
+        TestSession session;
+        if (!isEntry) {
+            session.expectBox(row->notice);
+        }
+        if (row->field == "correct"_L1) {
+            session.click("checkcorrect");
+        }
+        session.type("total", row->points);
+        session.type(row->field, row->typed + u"\n"_s);
+        session.expectFields(row->afterwards);
+        session.expectFields("problem=1 total="_L1 + row->points + " pointstemp="_L1 + row->points);
+        session.expectFields(isEntry ? "numstudents=1" : "numstudents=");
+        if (!isEntry) {
+            session.expectEmpty(kResultFields);
         }
     }
+
+    void aScaleOutOfOrderBringsOneQuestion_data() { AddRows(kPresses); }
 
     void aScaleOutOfOrderBringsOneQuestion()
     {
-        for (auto const& [scale, points, missed, boxes, after] : kPresses) {
-            Desk const desk(boxes);
-            desk.write(scale);
-            desk.gradeAll(points, {missed});
-            QByteArray const field = QByteArray(scale).split('=').first();
-            QCOMPARE(desk.show(field + " numstudents missed"), QLatin1String(after));
-            QVERIFY2(desk.allSeen(), scale);
-        }
+        QFETCH(Press const*, row);
+        TestSession session(row->boxes);
+        session.setFields(row->scale);
+        session.type("total", row->points);
+        session.whileBoxIsUp = [&] { session.expectFields("problem=1 pointstemp="_L1 + row->points); };
+        session.type("missed", row->missed + u"\n"_s);
+        session.expectFields(row->afterwards);
+        session.expectFields("problem=1 pointstemp="_L1 + row->points);
     }
+
+    void everyLetterHoldsFromItsMinimumToItsMaximum_data() { AddRows(kBands); }
 
     void everyLetterHoldsFromItsMinimumToItsMaximum()
     {
-        Desk const desk;
-        auto const letterFor = [&](double percent) {
-            desk.write("percentage=" + QByteArray::number(percent));
-            desk.form().percenttest();
-            return desk.show("lettergrade");
-        };
-        int above = 200;
-        for (auto const& [letter, minimum] : kMinimums) {
-            QCOMPARE(letterFor(above - 0.6), QLatin1String(letter));   // 97.4 rounds to 97
-            QCOMPARE(letterFor(minimum - 0.5), QLatin1String(letter)); // 97.5 rounds to 98
-            above = minimum;
+        QFETCH(Band const*, row);
+        TestSession const session;
+        for (double const percent : {row->minimum - 0.5, row->maximum + 0.4}) { // both round into the band
+            session.setFields(u"percentage=%1"_s.arg(percent));
+            session.form().percenttest();
+            session.form().results();
+            session.expectFields("lettergrade="_L1 + row->name);
         }
-        desk.write("dminusmin=0");
-        QCOMPARE(letterFor(0), "D-"_L1); // nothing is below the lowest minimum now
+        session.expectFields(row->tally + u"=2"_s);
+        session.expectEmpty(QString(kTallyFields).remove(QLatin1String(row->tally)).simplified());
+    }
+
+    void noPercentageIsBelowALowestMinimumOfZero()
+    {
+        TestSession const session;
+        session.setFields("dminusmin=0");
+        session.enterScores("30", {"30"});
+        session.expectFields("lettergrade=D- dgrade=1 fgrade=");
     }
 
     void aPercentageInAGapKeepsTheLetterBefore()
     {
-        Desk const desk;
-        desk.write("amin=92.5 aminusmax=91.5");
-        desk.gradeAll("100", {"8"}); // 92 lies in no band
-        QCOMPARE(desk.show("lettergrade numstudents ListBox4 " + QByteArray(kTallies)), "|1||||||"_L1);
-        desk.type("missed", "15\n");
-        desk.type("missed", "8\n");
-        QCOMPARE(desk.show("lettergrade ListBox4 " + QByteArray(kTallies)), "B|;B;B||2|||"_L1);
+        TestSession const session;
+        session.setFields("amin=92.5 aminusmax=91.5"); // 92 is in no band
+        session.enterScores("100", {"8"});
+        session.expectFields("lettergrade= numstudents=1 agrade= ListBox4=");
+        session.type("missed", "15\n");
+        session.type("missed", "8\n");
+        session.expectFields("lettergrade=B agrade= bgrade=2 ListBox4=;B;B");
+        session.chooseCommand("EditUndo");
+        session.chooseCommand("EditUndo");
+        session.expectFields("lettergrade= numstudents=1 bgrade=0 ListBox4=");
     }
 
     void theHistoryHoldsOneRowForEachEntry()
     {
-        Desk const desk;
-        desk.gradeAll("30", {"3", "4", "4"});
-        desk.press("checkcorrect");
-        desk.type("correct", "33\n");
-        desk.type("correct", "20.5\n");
-        QCOMPARE(desk.show("ListBox1"), "1,90,%;2,86.666,%;3,86.666,%;4,110,%;5,68.333,%"_L1);
-        QCOMPARE(desk.show("ListBox2 ListBox4"), "3;4;4;-3;9.5|A-;B;B;A+;D+"_L1);
-        QCOMPARE(desk.show("ListBox3 ListBox5"), "90;88;87;93;88|90;176;262;372;440"_L1); // fractions dropped
-        QCOMPARE(desk.show(kTallies), "2|2||1|"_L1);
+        TestSession const session;
+        session.enterScores("30", {"3", "4", "4"});
+        session.click("checkcorrect");
+        session.type("correct", "33\n");
+        session.type("correct", "20.375\n");
+        session.expectFields("ListBox1=1,90,%;2,86.666,%;3,86.666,%;4,110,%;5,67.916,% "
+                             "ListBox2=3;4;4;-3;9.625 ListBox4=A-;B;B;A+;D+ "
+                             "ListBox3=90;88;87;93;87 ListBox5=90;176;262;372;439"); // fractions dropped
+        session.expectFields("agrade=2 bgrade=2 cgrade= dgrade=1 fgrade=");
     }
 
-    void undoStepsBackDownToAnEmptySession()
+    void theLastEntryIsInSight()
     {
-        Desk desk;
-        desk.type("correct", "5");
-        QCOMPARE(Undo(desk, "correct problem"), "5|"_L1); // without entries a refusal must come first
-        desk.expect(kNoPoints);
-        desk.type("missed", "7\n");
-        QCOMPARE(Undo(desk, "correct missed problem"), "|7|1"_L1);
-        desk.gradeAll("30", {"3", "4", "30"});
-        desk.write("missed=9");
-        QCOMPARE(desk.show(kState), "3|0|F|30|176|58|"_L1);
-        QCOMPARE(Undo(desk), "2|86.666|B|4|176|88|"_L1);
-        QCOMPARE(desk.show(kTallies), "1|1|||0"_L1);
-        QCOMPARE(desk.show(kHistory), "1,90,%;2,86.666,%|3;4|90;88|A-;B|90;176"_L1);
-        QCOMPARE(Undo(desk), "1|90|A-|3|90|90|1"_L1);
-        QCOMPARE(desk.show("total pointstemp missed correct"), "30|30|9|0"_L1);
-        for (int i = 0; i < 2; ++i) { // the first clears; then there is nothing left
-            QCOMPARE(Undo(desk), "||||||1"_L1);
-            QCOMPARE(desk.show(kTallies) + desk.show(kHistory), "||||||||"_L1);
-            QCOMPARE(desk.show("total pointstemp missed correct"), "30|30|9|"_L1);
-        }
+        TestSession const session;
+        session.enterScores("30", QStringList(20, "3"));
+        QScrollBar const* const bar = session.widget<QTableView>("ListBox1")->verticalScrollBar();
+        QVERIFY(bar->maximum() > 0);
+        QCOMPARE(bar->value(), bar->maximum());
+        session.chooseCommand("EditUndo");
+        QCOMPARE(bar->value(), bar->maximum());
     }
 
-    void aRefusalAndANewEntryAreWorkedOffInTurn()
+    void undoStepsBackToTheRecordOfTheEntryBefore()
     {
-        Desk const desk({{kTooMany}});
-        desk.gradeAll("30", {"3", "31"});
-        QCOMPARE(Undo(desk), "1|90|A-|3|90|90|1"_L1); // after a refusal this only arms the next one
-        QCOMPARE(Undo(desk), "||||||1"_L1);
-        desk.gradeAll("30", {"3", "4"});
-        QCOMPARE(Undo(desk, "numstudents"), "1"_L1);
-        desk.type("missed", "6\n");
-        QCOMPARE(desk.show(kState), "2|80|B-|6|170|85|"_L1);
-        QCOMPARE(Undo(desk, "numstudents") + Undo(desk, "numstudents"), "1"_L1);
-        desk.type("missed", "6\n");
-        QCOMPARE(desk.show(kState), "1|80|B-|6|80|80|1"_L1);
-        QCOMPARE(Undo(desk), "||||||1"_L1);
-        desk.press("checkcorrect"); // the percentage comes back as the history has it
-        desk.type("correct", "25\n");
-        QCOMPARE(desk.show("percentage"), "83.33"_L1);
-        desk.type("correct", "0\n");
-        QCOMPARE(Undo(desk, "percentage lastmissed missed correct"), "83.333|5|30|"_L1);
+        TestSession const session;
+        session.enterScores("30", {"3", "4", "30"});
+        session.setFields("missed=9");
+        session.chooseCommand("EditUndo");
+        session.expectFields(
+            "numstudents=2 percentage=86.666 lettergrade=B lastmissed=4 average=176 EditField1=88");
+        session.expectFields(
+            "problem= agrade=1 bgrade=1 cgrade= dgrade= fgrade=0 total=30 missed=9 correct=0");
+        session.expectFields(
+            "ListBox1=1,90,%;2,86.666,% ListBox2=3;4 ListBox3=90;88 ListBox4=A-;B ListBox5=90;176");
+        session.chooseCommand("EditUndo");
+        session.expectFields("numstudents=1 percentage=90 lettergrade=A- lastmissed=3 average=90 problem=1");
+    }
+
+    void theFirstEntryIsUndoneByClearingTheResults()
+    {
+        TestSession const session;
+        session.enterScores("30", {"3"});
+        session.setFields("missed=9");
+        session.chooseCommand("EditUndo");
+        session.expectEmpty(kResultFields);
+        session.expectFields("total=30 pointstemp=30 missed=9 correct= problem=1");
+        session.chooseCommand("EditUndo"); // nothing is left
+        session.expectFields("total=30 pointstemp=30 missed=9 problem=1 numstudents=");
+    }
+
+    void undoWithoutEntriesEmptiesTheNumberCorrectOnlyAfterARefusal()
+    {
+        TestSession session;
+        session.type("correct", "5");
+        session.chooseCommand("EditUndo");
+        session.expectFields("correct=5 problem=");
+        session.expectBox(kNeedsPoints);
+        session.type("missed", "7\n");
+        session.chooseCommand("EditUndo");
+        session.expectFields("correct= missed=7 problem=1");
+    }
+
+    void afterARefusalTheFirstEntryTakesTwoUndos()
+    {
+        TestSession const session({{kTooManyMissed}});
+        session.enterScores("30", {"3", "31"});
+        session.expectFields("problem=");
+        session.chooseCommand("EditUndo");
+        session.expectFields("numstudents=1 percentage=90 lettergrade=A- problem=1");
+        session.chooseCommand("EditUndo");
+        session.expectEmpty(kResultFields);
+    }
+
+    void aNewEntryAfterAnUndoIsUndoneInItsTurn()
+    {
+        TestSession const session;
+        session.enterScores("30", {"3", "4"});
+        session.chooseCommand("EditUndo");
+        session.type("missed", "6\n");
+        session.expectFields("numstudents=2 percentage=80 lettergrade=B- average=170 EditField1=85 problem=");
+        session.chooseCommand("EditUndo");
+        session.chooseCommand("EditUndo");
+        session.type("missed", "6\n");
+        session.expectFields("numstudents=1 average=80 EditField1=80 problem=1");
+    }
+
+    void undoShowsThePercentageAsTheHistoryHasIt()
+    {
+        TestSession const session;
+        session.click("checkcorrect");
+        session.type("total", "30");
+        session.type("correct", "25\n");
+        session.expectFields("percentage=83.33");
+        session.type("correct", "0\n");
+        session.chooseCommand("EditUndo");
+        session.expectFields("percentage=83.333 lastmissed=5 missed=30 correct=");
+    }
+
+    void bothResetsEmptyTheSession_data()
+    {
+        QTest::addColumn<bool>("byMenu");
+        QTest::newRow("button") << false;
+        QTest::newRow("menu") << true;
     }
 
     void bothResetsEmptyTheSession()
     {
-        for (bool const byMenu : {false, true}) {
-            Desk desk;
-            desk.gradeAll("30", {"3", "15"});
-            desk.write("missed=31 problem=x fileresetfield=5 foundaproblem=1 amin=80");
-            for (int i = 0; i < 2; ++i) { // without entries too; no box comes
-                byMenu ? desk.choose("FileReset") : desk.press("BevelButton1");
-                QCOMPARE(desk.show(QByteArray(kState).replace("problem", kTallies)), "||||||||||"_L1);
-                QCOMPARE(desk.show(kHistory), "||||"_L1);
-                QCOMPARE(desk.show("total correct pointstemp"), byMenu ? "||30"_L1 : "||"_L1);
-                QCOMPARE(desk.show("missed problem fileresetfield foundaproblem amin"), "31|x|5|1|80"_L1);
-            }
+        QFETCH(bool, byMenu);
+        TestSession const session;
+        session.enterScores("30", {"3", "15"});
+        session.setFields("missed=31 problem=x fileresetfield=5 foundaproblem=1 amin=80");
+        for (int i = 0; i < 2; ++i) { // the second time without entries
+            byMenu ? session.chooseCommand("FileReset") : session.click("BevelButton1");
+            session.expectEmpty(kResultFields);
+            session.expectFields(byMenu ? "total= correct= pointstemp=30" : "total= correct= pointstemp=");
+            session.expectFields("missed=31 problem=x fileresetfield=5 foundaproblem=1 amin=80");
         }
     }
 
-    void changingThePointsUnderEntriesBringsOneNoticeAndTheTextBack()
+    void underEntriesTheNumberOfPointsIsPutBack()
     {
-        Desk desk;
-        desk.gradeAll("37.5", {"3"});
-        desk.widget("total")->setFocus();
-        for (Qt::Key const key : {Qt::Key_7, Qt::Key_Backspace}) {
-            desk.expect("To change the number of points, you must first reset the current data.");
-            QTest::keyClick(desk.widget("total"), key);
-            QVERIFY(desk.allSeen());
-            QCOMPARE(desk.show("total numstudents ListBox1"), "37.5|1|1,91.891,%"_L1);
-        }
-        desk.widget<QLineEdit>("total")->selectAll(); // the same text in its place is no change
-        desk.paste("37.5");
-        desk.choose("FileReset");
-        desk.type("total", "40");
-        QCOMPARE(desk.show("total"), "40"_L1);
+        TestSession session;
+        session.enterScores("37.5", {"3"});
+        session.enterField("total");
+        session.expectBox("To change the number of points, you must first reset the current data.");
+        session.whileBoxIsUp = [&] { session.expectFields("total=7"); }; // the notice comes first
+        QTest::keyClick(session.widget("total"), Qt::Key_7);
+        session.expectFields("total=37.5 numstudents=1 ListBox1=1,91.891,%");
+    }
+
+    void withoutEntriesTheNumberOfPointsIsFree()
+    {
+        TestSession const session;
+        session.enterScores("37.5", {"3"});
+        session.field("total")->selectAll();
+        session.paste("37.5"); // the same text is no change
+        session.chooseCommand("FileReset");
+        session.type("total", "40");
+        session.expectFields("total=40");
     }
 };
 

@@ -43,38 +43,6 @@ private:
     std::string taken_;
 };
 
-constexpr int kStayedOpen = -1;
-
-/// Shows a box on the desktop and does this with it. Gives what it answered.
-template <class Act>
-int Answer(bool question, Act const& act)
-{
-    bool stayed = false;
-    QTimer::singleShot(0, qApp, [&] {
-        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        static_cast<void>(QTest::qWaitForWindowActive(box));
-        act(*box);
-        stayed = box->isVisible();
-        if (stayed) {
-            box->reject();
-        }
-    });
-    int const answer = ShowMessageBox({"Delete <b>all</b>?", "", question});
-    return stayed ? kStayedOpen : answer;
-}
-
-struct {
-    bool question, heldDown;
-    int answer;
-    std::vector<Qt::Key> keys;
-} const kKeys[] = {
-    {true,  false, kNo,         {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space} },
-    {true,  false, kStayedOpen, {Qt::Key_Y, Qt::Key_N, Qt::Key_J, Qt::Key_5, Qt::Key_Backspace}},
-    {true,  true,  kStayedOpen, {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Space, Qt::Key_Y}     },
-    {false, false, kNo,         {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter}                },
-    {false, false, kStayedOpen, {Qt::Key_O}                                                    },
-};
-
 } // namespace
 
 /// What reaches a field, the window, the menu or a message box: keys, focus, changes of a text.
@@ -84,20 +52,20 @@ class KeysAndFields final : public QObject {
 private slots:
     void returnAndTheShortcutsWorkWhereverTheFocusIs()
     {
-        Desk const desk;
+        TestSession const session;
         int presses = 0;
-        desk.form().PushButton1().Action = [&] { ++presses; };
+        session.form().PushButton1().Action = [&] { ++presses; };
         for (char const* const name :
              {"total", "correct", "PushButton1", "percentage", "PushButton3", "checkcorrect", "ListBox1"}) {
             presses = 0;
-            QTest::keyClick(desk.widget(name), Qt::Key_Return);
-            QTest::keyClick(desk.widget(name), Qt::Key_Enter, Qt::KeypadModifier);
+            QTest::keyClick(session.widget(name), Qt::Key_Return);
+            QTest::keyClick(session.widget(name), Qt::Key_Enter, Qt::KeypadModifier);
             QKeyEvent heldDown(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
-            QCoreApplication::sendEvent(desk.widget(name), &heldDown);
+            QCoreApplication::sendEvent(session.widget(name), &heldDown);
             QVERIFY2(presses == 2, name);
             for (char const key : "OTWERPZ"_ba) { // as a field is asked whether a key of the menu is its own
                 QKeyEvent event(QEvent::ShortcutOverride, key, Qt::ControlModifier);
-                QCoreApplication::sendEvent(desk.widget(name), &event);
+                QCoreApplication::sendEvent(session.widget(name), &event);
                 QVERIFY2(!event.isAccepted(), name);
             }
         }
@@ -105,10 +73,10 @@ private slots:
 
     void everyActOfTheUserIsToldOnceAndInItsOrder()
     {
-        Desk const desk;
-        desk.form().PushButton1().Action = nullptr;
-        Notes notes(desk.form().missed());
-        auto* const missed = desk.widget<QLineEdit>("missed");
+        TestSession const session;
+        session.form().PushButton1().Action = nullptr;
+        Notes notes(session.form().missed());
+        auto* const missed = session.widget<QLineEdit>("missed");
         QTest::mouseClick(missed, Qt::LeftButton);
         QTest::keyClicks(missed, u"7x"_s);
         QTest::keyClick(missed, Qt::Key_Home);
@@ -124,94 +92,71 @@ private slots:
         QCOMPARE(notes.take(), "");
         Drop(missed, u"3"_s);
         QCOMPARE(notes.take(), "focus text=3 ");
-        desk.paste("12");
+        session.paste("12");
         QTest::keyClick(missed, Qt::Key_V, Qt::ControlModifier);
         QCOMPARE(notes.take(), "text=312 text=31212 ");
-        Compose(missed, "", "9");
-        Compose(missed, "4");
+        SendInputMethod(missed, "", "9");
+        SendInputMethod(missed, "4");
         QCOMPARE(notes.take(), "text=312124 ");
         missed->selectAll();
         QTest::keyClick(missed, Qt::Key_X, Qt::ControlModifier);
         QTest::keyClick(missed, Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(notes.take(), "text= text=312124 ");
         missed->selectAll();
-        desk.paste("312124"); // leaves the text as it was
-        desk.form().missed().Text("5");
-        desk.widget("missed")->setFocus();
+        session.paste("312124"); // leaves the text as it was
+        session.form().missed().Text("5");
+        session.widget("missed")->setFocus();
         QCOMPARE(notes.take(), "");
-        PlatformDoors().messageBox = ShowMessageBox;
+        session.useRealMessageBoxes();
         QTimer::singleShot(0, qApp, [] { QApplication::activeModalWidget()->close(); });
         MsgBox("a notice");
-        desk.activate();
-        desk.choose("filepresent");
-        desk.activate("Window1");
-        desk.activate();
-        desk.press("PushButton3");
-        desk.press("missed");
+        session.activate();
+        session.chooseCommand("filepresent");
+        session.activate("Window1");
+        session.activate();
+        session.click("PushButton3");
+        session.click("missed");
         QCOMPARE(notes.take(), ""); // the focus has not moved inside the window
     }
 
     void insertedTextIsOneLineAndTheLimitHoldsForTheUserAlone()
     {
-        Desk const desk;
-        Drop(desk.widget<QLineEdit>("total"), u"\r\n1\r\n2\n\n3\r"_s);
-        QCOMPARE(desk.show("total"), "1 2  3"_L1);
-        auto* const amax = desk.widget<QLineEdit>("amax");
-        desk.type("amax", "1234");
+        TestSession const session;
+        Drop(session.widget<QLineEdit>("total"), u"\r\n1\r\n2\n\n3\r"_s);
+        QCOMPARE(session.texts("total"), "1 2  3"_L1);
+        auto* const amax = session.widget<QLineEdit>("amax");
+        session.type("amax", "1234");
         QTest::sendKeyEvent(QTest::Click, amax, Qt::Key_4, u"4"_s,
                             Qt::ControlModifier | Qt::AltModifier); // AltGr
-        Compose(amax, "5");
+        SendInputMethod(amax, "5");
         Drop(amax, u"6"_s);
-        desk.paste("7");
+        session.paste("7");
         QCOMPARE(amax->text(), "123"_L1);
         amax->setSelection(1, 1); // what is selected makes room
-        desk.paste("789");
+        session.paste("789");
         QCOMPARE(amax->text(), "173"_L1);
         amax->selectAll();
-        Compose(amax, "4567");
+        SendInputMethod(amax, "4567");
         QCOMPARE(amax->text(), "456"_L1);
-        desk.form().amax().Text("92.54");
+        session.form().amax().Text("92.54");
         QTest::keyClick(amax, Qt::Key_Backspace);
         QCOMPARE(amax->text(), "92.5"_L1);
     }
 
     void undoTakesBackTypingFirstAndThenTheEntry()
     {
-        Desk const desk;
-        desk.gradeAll("30", {"3", "4"});
+        TestSession const session;
+        session.enterScores("30", {"3", "4"});
         auto const undo = [&] {
-            QTest::keyClick(desk.widget("missed"), Qt::Key_Z, Qt::ControlModifier);
-            return desk.show("missed numstudents");
+            QTest::keyClick(session.widget("missed"), Qt::Key_Z, Qt::ControlModifier);
+            return session.texts("missed numstudents");
         };
-        QTest::keyClicks(desk.widget("missed"), u"25"_s);
+        QTest::keyClicks(session.widget("missed"), u"25"_s);
         QCOMPARE(undo(), "|2"_L1);
         QCOMPARE(undo(), "|1"_L1);
-        QTest::keyClicks(desk.widget("missed"), u"25"_s);
-        desk.press("PushButton2"); // a button in between
+        QTest::keyClicks(session.widget("missed"), u"25"_s);
+        session.click("PushButton2"); // a button in between
         QCOMPARE(undo(), "25|"_L1);
-    }
-
-    void onlyDeliberateKeysAndClicksAnswerABox()
-    {
-        for (auto const& [question, heldDown, answer, keys] : kKeys) {
-            for (Qt::Key const key : keys) {
-                QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
-                auto const press = [&held, isHeld = heldDown, sent = key](QMessageBox& box) {
-                    isHeld ? static_cast<void>(qApp->sendEvent(box.defaultButton(), &held))
-                           : QTest::keyClick(box.defaultButton(), sent);
-                };
-                QCOMPARE(Answer(question, press), answer);
-            }
-        }
-        auto const alt = [](QMessageBox& box) {
-            QTest::keyClick(&box, Qt::Key_Y, Qt::AltModifier); // pressed for a moment
-            static_cast<void>(QTest::qWaitFor([&] { return !box.isVisible(); }));
-        };
-        QCOMPARE(Answer(true, alt), kYes);
-        QCOMPARE(Answer(true, [](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); }), kYes);
-        QCOMPARE(Answer(true, [](QMessageBox& box) { box.close(); }), kNo);
-        QCOMPARE(Answer(true, [](QMessageBox& box) { QCOMPARE(box.textFormat(), Qt::PlainText); }),
-                 kStayedOpen);
     }
 };
 

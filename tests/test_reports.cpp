@@ -11,12 +11,12 @@
 namespace {
 
 /// A session of so many entries: entry n missed n of 200 points.
-void Grade(Desk& desk, int entries)
+void Grade(TestSession& session, int entries)
 {
-    desk.write("total=200");
+    session.setFields("total=200");
     for (int n = 1; n <= entries; ++n) {
-        desk.write("missed=" + QByteArray::number(n));
-        desk.form().PushButton1_Action();
+        session.setFields("missed=" + QByteArray::number(n));
+        session.form().PushButton1_Action();
     }
 }
 
@@ -58,19 +58,19 @@ private slots:
     void everyEntryStandsAtItsPlace()
     {
         for (int const entries : {1, 40, 41, 80, 81, 120, 121, 160, 161}) {
-            Desk desk;
-            Grade(desk, entries);
-            desk.chosen = desk.at("report.pdf");
+            TestSession session;
+            Grade(session, entries);
+            session.fileToChoose = session.pathOf("report.pdf");
             if (entries > 160) {
-                desk.expect("Gradeloom will only print the first 160 entries.");
+                session.expectBox("Gradeloom will only print the first 160 entries.");
             }
-            desk.choose("FilePrint");
-            QVERIFY(desk.allSeen());
-            std::vector<Word> const words = ReadPdf(desk.chosen);
+            session.chooseCommand("FilePrint");
+            QVERIFY(session.allBoxesSeen());
+            std::vector<Word> const words = ReadPdf(session.fileToChoose);
             QVERIFY(words.size() > 10);
             QCOMPARE(words.back().page, entries > 80 ? 2 : 1);
             double const depth = words.front().bottom - 50; // of the font below the heading's base line
-            QStringList const letters = desk.show("ListBox4").split(u';');
+            QStringList const letters = session.texts("ListBox4").split(u';');
             QString heading;
             int student = 0;
             for (std::size_t i = 0; i < words.size(); ++i) {
@@ -90,62 +90,61 @@ private slots:
             }
             QCOMPARE(student, qMin(entries, 160));
             QCOMPARE(heading, u"Results from Gradeloom Number of Students : %1 Class Average : %2 % "_s.arg(
-                                  desk.show("numstudents"), desk.show("EditField1")));
+                                  session.texts("numstudents"), session.texts("EditField1")));
         }
     }
 
     void theExportHoldsThePercentagesAndNothingIsLostByAFault()
     {
-        Desk desk;
-        desk.expect("There is currently no data to send to the printer.");
-        desk.choose("FilePrint");
-        desk.expect("There is currently no data to export to disk.");
-        desk.choose("FileExport");
-        Grade(desk, 161);
-        desk.choose("FilePrint");                    // cancelled: no limit message either
-        QCOMPARE(desk.asked.size(), std::size_t(1)); // none came before
-        desk.choose("FileReset");
-        Grade(desk, 1);
-        desk.chosen = desk.at("no/report.pdf");
-        desk.expect("The results could not be printed to the file \"report.pdf\": No such file or dir");
-        desk.choose("FilePrint");
-        desk.chosen = desk.at("");
-        desk.expect("The file \"");
-        desk.choose("FileExport");
-        desk.choose("FileReset");
-        desk.gradeAll("30", {"3", "4", "0", "30", "5"});
-        desk.choose("EditUndo");
-        QVERIFY(desk.asked.back().saving && desk.asked.back().title == "Save your file");
-        desk.chosen = desk.at("out");
+        TestSession session;
+        session.expectBox("There is currently no data to send to the printer.");
+        session.chooseCommand("FilePrint");
+        session.expectBox("There is currently no data to export to disk.");
+        session.chooseCommand("FileExport");
+        Grade(session, 161);
+        session.chooseCommand("FilePrint");               // cancelled: no limit message either
+        QCOMPARE(session.dialogs.size(), std::size_t(1)); // none came before
+        session.chooseCommand("FileReset");
+        Grade(session, 1);
+        session.fileToChoose = session.pathOf("no/report.pdf");
+        session.expectBox("The results could not be printed to the file \"report.pdf\": No such file or dir");
+        session.chooseCommand("FilePrint");
+        session.fileToChoose = session.pathOf("");
+        session.expectBox("The file \"");
+        session.chooseCommand("FileExport");
+        session.chooseCommand("FileReset");
+        session.enterScores("30", {"3", "4", "0", "30", "5"});
+        session.chooseCommand("EditUndo");
+        QVERIFY(session.dialogs.back().saving && session.dialogs.back().title == "Save your file");
+        session.fileToChoose = session.pathOf("out");
         for (int repeat = 0; repeat < 2; ++repeat) {
-            desk.choose("FileExport");
-            QCOMPARE(Content(desk.chosen), "90\n86.666\n100\n0\n"_ba);
+            session.chooseCommand("FileExport");
+            QCOMPARE(ContentOf(session.fileToChoose), "90\n86.666\n100\n0\n"_ba);
         }
     }
 
     void theRealDialogsLeadToRealFiles()
     {
-        Desk const desk;
-        PlatformDoors().fileDialog = ShowFileDialog;
-        PlatformDoors().printDialog = ShowPrintDialog;
-        desk.gradeAll("40", {"4"});
+        TestSession const session;
+        session.useRealDialogs();
+        session.enterScores("40", {"4"});
         QTimer::singleShot(0, qApp, [&] {
             auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
             QCOMPARE(dialog->labelText(QFileDialog::FileName), "Enter a filename"_L1);
             QCOMPARE(QFileInfo(dialog->selectedFiles().value(0)).fileName(), "ExportedPercents"_L1);
-            dialog->findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(desk.at("percents"));
+            dialog->findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(session.pathOf("percents"));
             QMetaObject::invokeMethod(dialog, "accept");
         });
-        desk.choose("FileExport");
-        QCOMPARE(Content(desk.at("percents")), "90\n"_ba);
-        desk.activate();
+        session.chooseCommand("FileExport");
+        QCOMPARE(ContentOf(session.pathOf("percents")), "90\n"_ba);
+        session.activate();
         QTimer::singleShot(0, qApp, [&] {
             QWidget* const dialog = QApplication::activeModalWidget();
-            dialog->findChild<QLineEdit*>(u"filename"_s)->setText(desk.at("report.pdf"));
+            dialog->findChild<QLineEdit*>(u"filename"_s)->setText(session.pathOf("report.pdf"));
             QMetaObject::invokeMethod(dialog, "accept");
         });
-        desk.choose("FilePrint");
-        QVERIFY(Content(desk.at("report.pdf")).startsWith("%PDF"));
+        session.chooseCommand("FilePrint");
+        QVERIFY(ContentOf(session.pathOf("report.pdf")).startsWith("%PDF"));
     }
 };
 

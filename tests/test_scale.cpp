@@ -27,13 +27,13 @@ struct {
 // clang-format on
 
 /// Runs the repair, which must come with its notice or without.
-void Repair(Desk& desk, bool withNotice)
+void Repair(TestSession& session, bool withNotice)
 {
     if (withNotice) {
-        desk.expect(kRepaired);
+        session.expectBox(kScaleRepaired);
     }
-    desk.form().gradingscaletest();
-    QVERIFY(desk.allSeen());
+    session.form().gradingscaletest();
+    QVERIFY(session.allBoxesSeen());
 }
 
 } // namespace
@@ -46,48 +46,48 @@ private slots:
     void theRepairMendsFromTheTopDown()
     {
         for (auto const& [typed, scale, marked, isMended] : kRepairs) {
-            Desk desk;
-            QCOMPARE(desk.show(kFields), kDefault);
-            desk.write(typed);
-            QStringList expected = desk.show(kFields).split(u'|');
+            TestSession session;
+            QCOMPARE(session.texts(kScaleFieldNames), kDefault);
+            session.setFields(typed);
+            QStringList expected = session.texts(kScaleFieldNames).split(u'|');
             QStringList const mended = QString::fromLatin1(scale).split(u'|', Qt::SkipEmptyParts);
             std::copy(mended.begin(), mended.end(), expected.begin());
-            Repair(desk, !mended.isEmpty());
-            QCOMPARE(desk.show(kFields), expected.join(u'|'));
-            Repair(desk, !isMended);
-            QCOMPARE(desk.show("foundaproblem"), QLatin1String(marked)); // once set it stays
+            Repair(session, !mended.isEmpty());
+            QCOMPARE(session.texts(kScaleFieldNames), expected.join(u'|'));
+            Repair(session, !isMended);
+            QCOMPARE(session.texts("foundaproblem"), QLatin1String(marked)); // once set it stays
         }
     }
 
     void aMaximumFollowsTheMinimumAboveItAndAMinimumItsOwnMaximum()
     {
-        Desk desk;
-        QList<QByteArray> const fields = QByteArray(kFields).split(' ');
+        TestSession session;
+        QList<QByteArray> const fields = QByteArray(kScaleFieldNames).split(' ');
         for (qsizetype i = 1; i < fields.size(); ++i) {
             bool const isMaximum = i % 2 == 0;
-            int const above = desk.show(fields[i - 1]).toInt();
+            int const above = session.texts(fields[i - 1]).toInt();
             int const highest = isMaximum ? above - 1 : above;
-            desk.write(fields[i] + '=' + QByteArray::number(isMaximum ? above - 2 : above));
-            Repair(desk, i < fields.size() - 1); // of a minimum, the boundary below is off
-            QCOMPARE(desk.show(fields[i]).toInt(), highest);
-            desk.write(fields[i] + '=' + QByteArray::number(highest + 1));
-            Repair(desk, true);
-            QCOMPARE(desk.show(fields[i]).toInt(), above - 1);
-            desk.press("PushButton3");
+            session.setFields(fields[i] + '=' + QByteArray::number(isMaximum ? above - 2 : above));
+            Repair(session, i < fields.size() - 1); // of a minimum, the boundary below is off
+            QCOMPARE(session.texts(fields[i]).toInt(), highest);
+            session.setFields(fields[i] + '=' + QByteArray::number(highest + 1));
+            Repair(session, true);
+            QCOMPARE(session.texts(fields[i]).toInt(), above - 1);
+            session.click("PushButton3");
         }
     }
 
     void theDefaultButtonActsOnlyWithoutEntries()
     {
-        Desk desk;
-        desk.write("amin=word dminusmin=50 foundaproblem=1");
-        desk.press("PushButton3");
-        QCOMPARE(desk.show(kFields) + desk.show("foundaproblem"), kDefault + "1"_L1);
-        desk.gradeAll("30", {"3"});
-        desk.write("dminusmin=50");
-        desk.expect("Changing the grading scale to the Default cannot happen until you have reset");
-        desk.press("PushButton3");
-        QCOMPARE(desk.show("dminusmin"), "50"_L1);
+        TestSession session;
+        session.setFields("amin=word dminusmin=50 foundaproblem=1");
+        session.click("PushButton3");
+        QCOMPARE(session.texts(kScaleFieldNames) + session.texts("foundaproblem"), kDefault + "1"_L1);
+        session.enterScores("30", {"3"});
+        session.setFields("dminusmin=50");
+        session.expectBox("Changing the grading scale to the Default cannot happen until you have reset");
+        session.click("PushButton3");
+        QCOMPARE(session.texts("dminusmin"), "50"_L1);
     }
 };
 

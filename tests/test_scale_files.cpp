@@ -1,8 +1,6 @@
 #include "tests/harness.h"
 
 #include "platform/files.h"
-#include "platform/qt/save_file.h"
-#include "platform/qt/text.h"
 
 #include <QDir>
 
@@ -14,22 +12,22 @@ QByteArray const kDefaultFile =
 
 struct {
     char const* written; // into the default scale
-    std::vector<Desk::Box> notices;
+    std::vector<TestSession::Box> notices;
     QLatin1String after; // the lowest minimum and the mark of a repair
     bool saved;
 } const kSaves[] = {
-    {"foundaproblem=",  {},                       "60|"_L1,  true },
-    {"foundaproblem=1", {},                       "60|"_L1,  false}, // an earlier repair
-    {"amin=80",         {{kRepaired}},            "60|"_L1,  false},
-    {"dminusmin=59.6",  {},                       "60|"_L1,  true },
-    {"dminusmin=-0.4",  {},                       "0|"_L1,   true }, // not below zero
-    {"dminusmin=-0.5",  {{kTooLow}},              "-1|"_L1,  false},
-    {"aplusmin=10",     {{kRepaired}, {kTooLow}}, "-12|"_L1, false},
+    {"foundaproblem=",  {},                            "60|"_L1,  true },
+    {"foundaproblem=1", {},                            "60|"_L1,  false}, // an earlier repair
+    {"amin=80",         {{kScaleRepaired}},            "60|"_L1,  false},
+    {"dminusmin=59.6",  {},                            "60|"_L1,  true },
+    {"dminusmin=-0.4",  {},                            "0|"_L1,   true }, // not below zero
+    {"dminusmin=-0.5",  {{kTooLow}},                   "-1|"_L1,  false},
+    {"aplusmin=10",     {{kScaleRepaired}, {kTooLow}}, "-12|"_L1, false},
 };
 
 QString Preferences()
 {
-    return ToQt(GetFolderItem("Preferences", 0)->Path());
+    return QString::fromStdString(GetFolderItem("Preferences", 0)->Path());
 }
 
 } // namespace
@@ -45,38 +43,39 @@ private slots:
     {
         QDir(QFileInfo(Preferences()).path()).removeRecursively(); // the first save makes the folder
         {
-            Desk const desk;
-            desk.write("aplusmin=95.5 amax=94.5");
-            desk.press("PushButton4");
+            TestSession const session;
+            session.setFields("aplusmin=95.5 amax=94.5");
+            session.click("PushButton4");
         }
-        QCOMPARE(Content(Preferences()), QByteArray(kDefaultFile).replace("98\n97", "95.5\n94.5"));
-        QCOMPARE(Desk().show("aplusmin amax dminusmin foundaproblem"), "95.5|94.5|60|"_L1);
-        SaveWhole(Preferences(),
+        QCOMPARE(ContentOf(Preferences()), QByteArray(kDefaultFile).replace("98\n97", "95.5\n94.5"));
+        QCOMPARE(TestSession().texts("aplusmin amax dminusmin foundaproblem"), "95.5|94.5|60|"_L1);
+        WriteFile(Preferences(),
                   QByteArray(kDefaultFile).replace("100", "95")); // only the top is off: no word
-        QCOMPARE(Desk().show("aplusmax aplusmin foundaproblem"), "100|98|"_L1);
-        SaveWhole(Preferences(), QByteArray(kDefaultFile).replace("93\n92", "93\n91"));
-        QCOMPARE(Desk({{kRepaired}}).show("aminusmax foundaproblem"), "92|1"_L1);
+        QCOMPARE(TestSession().texts("aplusmax aplusmin foundaproblem"), "100|98|"_L1);
+        WriteFile(Preferences(), QByteArray(kDefaultFile).replace("93\n92", "93\n91"));
+        QCOMPARE(TestSession({{kScaleRepaired}}).texts("aminusmax foundaproblem"), "92|1"_L1);
     }
 
     void theGateRepairsRoundsAndRefuses()
     {
         for (auto const& [written, notices, after, saved] : kSaves) {
             QFile::remove(Preferences());
-            Desk desk;
-            desk.chosen = desk.at("scale");
+            TestSession session;
+            session.fileToChoose = session.pathOf("scale");
             for (char const* const button : {"PushButton4", "PushButton2"}) {
-                desk.press("PushButton3");
-                desk.write(written);
-                for (Desk::Box const& notice : notices) {
-                    desk.expect(notice.text);
+                session.click("PushButton3");
+                session.setFields(written);
+                for (TestSession::Box const& notice : notices) {
+                    session.expectBox(notice.text);
                 }
-                desk.press(button);
-                QVERIFY(desk.allSeen());
-                QCOMPARE(desk.show("dminusmin foundaproblem"), after);
+                session.click(button);
+                QVERIFY(session.allBoxesSeen());
+                QCOMPARE(session.texts("dminusmin foundaproblem"), after);
             }
-            QVERIFY2(QFile::exists(Preferences()) == saved && QFile::exists(desk.chosen) == saved, written);
+            QVERIFY2(QFile::exists(Preferences()) == saved && QFile::exists(session.fileToChoose) == saved,
+                     written);
             if (after == "60|"_L1) {
-                desk.press("PushButton4"); // after a refusal the next press finds nothing to stop it
+                session.click("PushButton4"); // after a refusal the next press finds nothing to stop it
                 QVERIFY(QFile::exists(Preferences()));
             }
         }
@@ -84,69 +83,69 @@ private slots:
 
     void aNamedScaleComesBackAsItWasWritten()
     {
-        Desk desk;
-        desk.gradeAll("40", {"4"}); // a scale can be saved while entries stand
-        desk.write("aplusmin=92.5 amax=91.5 amin=91 aminusmax=90");
-        desk.form().aplusmax().Text(" 100 points");
-        desk.press("PushButton2"); // cancelled
-        FileDialogRequest const request = desk.asked.at(0);
+        TestSession session;
+        session.enterScores("40", {"4"}); // a scale can be saved while entries stand
+        session.setFields("aplusmin=92.5 amax=91.5 amin=91 aminusmax=90");
+        session.form().aplusmax().Text(" 100 points");
+        session.click("PushButton2"); // cancelled
+        FileDialogRequest const request = session.dialogs.at(0);
         QVERIFY(request.saving && request.suggestedName == "AlternativeGradingScale" &&
-                QDir(ToQt(request.folder)).exists());
-        desk.chosen = desk.at("mine");
-        desk.press("PushButton2");
-        desk.expect("In order to change the current grading scale, you must first reset the data");
-        desk.choose("FileOpen"); // with entries: no dialog
-        QCOMPARE(desk.asked.size(), std::size_t(2));
-        desk.choose("FileReset");
-        desk.press("PushButton3");
-        desk.choose("FileOpen");
-        QCOMPARE(desk.show("aplusmax aplusmin amax amin foundaproblem"), " 100 points|92.5|91.5|91|"_L1);
-        QVERIFY(!desk.asked.back().saving && desk.asked.back().title == "Select a Grading Scale");
+                QDir(QString::fromStdString(request.folder)).exists());
+        session.fileToChoose = session.pathOf("mine");
+        session.click("PushButton2");
+        session.expectBox("In order to change the current grading scale, you must first reset the data");
+        session.chooseCommand("FileOpen"); // with entries: no dialog
+        QCOMPARE(session.dialogs.size(), std::size_t(2));
+        session.chooseCommand("FileReset");
+        session.click("PushButton3");
+        session.chooseCommand("FileOpen");
+        QCOMPARE(session.texts("aplusmax aplusmin amax amin foundaproblem"), " 100 points|92.5|91.5|91|"_L1);
+        QVERIFY(!session.dialogs.back().saving && session.dialogs.back().title == "Select a Grading Scale");
     }
 
     void everyFormOfAScaleFileIsReadAndWordsAreRepaired()
     {
         QByteArray const seen =
             QByteArray(kDefaultFile).replace("98\n97", "96\n95").replace("62\n60", "62\n61");
-        Desk desk;
-        desk.chosen = desk.at("scale");
+        TestSession session;
+        session.fileToChoose = session.pathOf("scale");
         for (QByteArray const& bytes :
              {seen, QByteArray(seen).replace("\n", "\r\n"), QByteArray(seen).replace("\n", "\r"),
               "\xEF\xBB\xBF" + seen, seen.chopped(1), seen + "12\n", seen + QByteArray(1'000'000, '\n')}) {
-            desk.press("PushButton3");
-            SaveWhole(desk.chosen, bytes);
-            desk.choose("FileOpen");
-            QCOMPARE(desk.show("aplusmax aplusmin dminusmin"), "100|96|61"_L1);
+            session.click("PushButton3");
+            WriteFile(session.fileToChoose, bytes);
+            session.chooseCommand("FileOpen");
+            QCOMPARE(session.texts("aplusmax aplusmin dminusmin"), "100|96|61"_L1);
         }
-        SaveWhole(desk.chosen, QByteArray(seen).replace("96", "96\0\xFF"_ba));
-        desk.choose("FileOpen");
-        QCOMPARE(desk.show("aplusmin"), u"96\0\xFFFD"_s);
+        WriteFile(session.fileToChoose, QByteArray(seen).replace("96", "96\0\xFF"_ba));
+        session.chooseCommand("FileOpen");
+        QCOMPARE(session.texts("aplusmin"), u"96\0\xFFFD"_s);
         for (QByteArray const& bytes : {""_ba, "a\nfew\nwords\n"_ba, "1\0000\0\n\0"_ba}) {
-            SaveWhole(desk.chosen, bytes);
-            desk.expect(kRepaired);
-            desk.choose("FileOpen");
-            QCOMPARE(desk.show("aplusmax foundaproblem"), "100|"_L1);
-            desk.expect(kTooLow);
-            desk.press("PushButton4");
+            WriteFile(session.fileToChoose, bytes);
+            session.expectBox(kScaleRepaired);
+            session.chooseCommand("FileOpen");
+            QCOMPARE(session.texts("aplusmax foundaproblem"), "100|"_L1);
+            session.expectBox(kTooLow);
+            session.click("PushButton4");
         }
         QVERIFY(!QFile::exists(Preferences()));
     }
 
     void aFailedSaveIsToldAndTheNextOneWorks()
     {
-        Desk desk;
-        desk.gradeAll("40", {"4"});
-        desk.write("dminusmin=59.6");
-        desk.chosen = desk.at("no/such/folder/scale");
-        desk.expect("The file \"scale\" could not be saved: No such file or directory.");
-        desk.press("PushButton2");
-        QCOMPARE(desk.show("dminusmin numstudents foundaproblem"), "60|1|"_L1);
-        desk.chosen = desk.at("scale");
-        desk.press("PushButton2");
-        QCOMPARE(Content(desk.chosen), kDefaultFile);
+        TestSession session;
+        session.enterScores("40", {"4"});
+        session.setFields("dminusmin=59.6");
+        session.fileToChoose = session.pathOf("no/such/folder/scale");
+        session.expectBox("The file \"scale\" could not be saved: No such file or directory.");
+        session.click("PushButton2");
+        QCOMPARE(session.texts("dminusmin numstudents foundaproblem"), "60|1|"_L1);
+        session.fileToChoose = session.pathOf("scale");
+        session.click("PushButton2");
+        QCOMPARE(ContentOf(session.fileToChoose), kDefaultFile);
         QVERIFY(QDir().mkpath(Preferences())); // a folder stands in the way of the standing scale
-        desk.expect("The file \"Preferences\" could not be saved: ");
-        desk.press("PushButton4");
+        session.expectBox("The file \"Preferences\" could not be saved: ");
+        session.click("PushButton4");
     }
 };
 

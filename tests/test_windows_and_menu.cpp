@@ -20,11 +20,11 @@ struct { char const* points; char const* rows; char const* last; } const kCharts
 // clang-format on
 
 /// What is on in the visible menus of a window, with the shortcuts; "|" stands for a menu.
-QString ItemsOn(Desk const& desk, char const* window = "mainscreen")
+QString ItemsOn(TestSession const& session, char const* window = "mainscreen")
 {
-    desk.activate(window);
+    session.activate(window);
     QString shown;
-    for (QAction const* const item : desk.menus()) {
+    for (QAction const* const item : session.menuItems()) {
         if (item->isVisible() && item->isEnabled() && !item->isSeparator()) {
             QString const shortcut = item->shortcut().toString().remove(u"Ctrl"_s);
             shown += item->menu() != nullptr ? u"|"_s : item->objectName() + shortcut + u' ';
@@ -42,7 +42,7 @@ class WindowsAndMenu final : public QObject {
 private slots:
     void tabWalksTheFormAndBack()
     {
-        Desk const desk;
+        TestSession const session;
         QString walked;
         for (int i = 0; i < 44; ++i) {
             walked += QApplication::focusWidget()->objectName() + u' ';
@@ -55,97 +55,97 @@ private slots:
 
     void commandsAreOnByTheWindowInFrontAndTheFocusedField()
     {
-        Desk const desk;
-        desk.choose("filepresent");
-        desk.activate();
-        desk.choose("About");
-        QCOMPARE(ItemsOn(desk, "Author"), "|FileClose+W FileQuit+Q |"_L1);
-        QCOMPARE(ItemsOn(desk, "Window1"),
+        TestSession const session;
+        session.chooseCommand("filepresent");
+        session.activate();
+        session.chooseCommand("About");
+        QCOMPARE(ItemsOn(session, "Author"), "|FileClose+W FileQuit+Q |"_L1);
+        QCOMPARE(ItemsOn(session, "Window1"),
                  "|FileClose+W FileQuit+Q |EditCut+X EditCopy+C EditPaste+V EditClear "_L1);
         QString const file =
             u"|FileOpen+O filepresent+T FileClose+W FileExport+E FileReset+R FilePrint+P FileQuit+Q |"_s;
-        QCOMPARE(ItemsOn(desk), file + "EditUndo+Z EditCut+X EditCopy+C EditPaste+V EditClear About "_L1);
-        desk.widget("percentage")->setFocus();
-        QCOMPARE(ItemsOn(desk), file + "EditUndo+Z EditCopy+C About "_L1);
-        desk.widget("ListBox1")->setFocus();
-        QCOMPARE(ItemsOn(desk), file + "EditUndo+Z About "_L1);
-        desk.choose("About"); // the same window again; its button acts as the mouse goes down
-        QWidget* const button = desk.widget("PushButton1", "Author");
+        QCOMPARE(ItemsOn(session), file + "EditUndo+Z EditCut+X EditCopy+C EditPaste+V EditClear About "_L1);
+        session.widget("percentage")->setFocus();
+        QCOMPARE(ItemsOn(session), file + "EditUndo+Z EditCopy+C About "_L1);
+        session.widget("ListBox1")->setFocus();
+        QCOMPARE(ItemsOn(session), file + "EditUndo+Z About "_L1);
+        session.chooseCommand("About"); // the same window again; its button acts as the mouse goes down
+        QWidget* const button = session.widget("PushButton1", "Author");
         QTest::keyClick(button, Qt::Key_Return);
         QTest::mouseClick(button, Qt::RightButton);
-        QVERIFY(desk.browsed.empty());
+        QVERIFY(session.openedAddress.empty());
         QTest::mousePress(button, Qt::LeftButton);
-        QVERIFY(desk.browsed.rfind("https://", 0) == 0);
+        QVERIFY(session.openedAddress.rfind("https://", 0) == 0);
     }
 
     void theChartSplitsIntoThreePairsAndStartsAnewAtEachPress()
     {
-        Desk desk;
-        desk.choose("filepresent");
+        TestSession session;
+        session.chooseCommand("filepresent");
         for (auto const& [points, rows, last] : kCharts) {
-            desk.type("EditField1", points, "Window1");
+            session.type("EditField1", points, "Window1");
             QString counts;
             QString lastRow;
-            for (QString const& list : desk.show(kLists, "Window1").split(u'|')) {
+            for (QString const& list : session.texts(kLists, "Window1").split(u'|')) {
                 counts += QString::number(list.isEmpty() ? 0 : list.count(u';') + 1) + u' ';
                 lastRow = list.isEmpty() ? lastRow : list.split(u';').last();
             }
             QCOMPARE(counts + lastRow, rows + u" "_s + last);
         }
-        desk.expect("This feature of Gradeloom can only present 105 percentages.");
-        desk.type("EditField1", "106\n", "Window1");
-        QCOMPARE(desk.show("EditField1 ListBox6 ListBox7 " + QByteArray(kHistory), "Window1"),
+        session.expectBox("This feature of Gradeloom can only present 105 percentages.");
+        session.type("EditField1", "106\n", "Window1");
+        QCOMPARE(session.texts("EditField1 ListBox6 ListBox7 " + QByteArray(kHistoryLists), "Window1"),
                  "106|||||||"_L1);
-        desk.type("EditField1", "80\n", "Window1");
+        session.type("EditField1", "80\n", "Window1");
         for (auto const row :
              {"0,100;-1,98.75;"_L1, ";-35,56.25|-36,55;"_L1, ";-70,12.5|-71,11.25;"_L1, ";-80,0"_L1}) {
-            QVERIFY2(desk.show(kLists, "Window1").contains(row), row.data());
+            QVERIFY2(session.texts(kLists, "Window1").contains(row), row.data());
         }
     }
 
     void thePresenterIsOneWindowThatOutlivesTheMainOne()
     {
-        Desk const desk;
+        TestSession const session;
         for (bool const byDesktop : {true, false}) {
-            desk.choose("filepresent");
-            desk.activate("Window1");
-            QCOMPARE(desk.show("EditField1 ListBox1", "Window1"), "|"_L1);
-            desk.type("EditField1", "1\n", "Window1");
-            QMainWindow* const presenter = desk.window("Window1");
-            desk.activate();
-            QTest::keyClick(desk.window(), Qt::Key_T, Qt::ControlModifier);
+            session.chooseCommand("filepresent");
+            session.activate("Window1");
+            QCOMPARE(session.texts("EditField1 ListBox1", "Window1"), "|"_L1);
+            session.type("EditField1", "1\n", "Window1");
+            QMainWindow* const presenter = session.window("Window1");
+            session.activate();
+            QTest::keyClick(session.window(), Qt::Key_T, Qt::ControlModifier);
             QTRY_COMPARE(QApplication::activeWindow(), presenter);
-            QCOMPARE(desk.show("EditField1 ListBox1", "Window1"), "1|0,100;-1,0"_L1);
-            byDesktop ? static_cast<void>(presenter->close()) : desk.choose("FileClose");
-            QVERIFY(desk.window("Window1") == nullptr);
-            desk.activate();
+            QCOMPARE(session.texts("EditField1 ListBox1", "Window1"), "1|0,100;-1,0"_L1);
+            byDesktop ? static_cast<void>(presenter->close()) : session.chooseCommand("FileClose");
+            QVERIFY(session.window("Window1") == nullptr);
+            session.activate();
         }
-        QVERIFY(!desk.window()->close() && desk.window() != nullptr); // only its command closes it
-        desk.gradeAll("30", {"3"});
-        desk.choose("filepresent");
-        desk.activate();
-        QTest::keyClick(desk.window(), Qt::Key_W, Qt::ControlModifier); // no box comes
-        QVERIFY(desk.window() == nullptr);
+        QVERIFY(!session.window()->close() && session.window() != nullptr); // only its command closes it
+        session.enterScores("30", {"3"});
+        session.chooseCommand("filepresent");
+        session.activate();
+        QTest::keyClick(session.window(), Qt::Key_W, Qt::ControlModifier); // no box comes
+        QVERIFY(session.window() == nullptr);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        desk.activate("Window1");
-        desk.type("EditField1", "1", "Window1");
-        desk.press("PushButton1", "Window1");
-        QCOMPARE(desk.show("ListBox1", "Window1"), "0,100;-1,0"_L1);
+        session.activate("Window1");
+        session.type("EditField1", "1", "Window1");
+        session.click("PushButton1", "Window1");
+        QCOMPARE(session.texts("ListBox1", "Window1"), "0,100;-1,0"_L1);
     }
 
     void theProgramRunsUntilItsLastWindowClosesAndSurvivesAnException()
     {
-        Desk desk;
+        TestSession session;
         QTimer::singleShot(0, this, [&] {
-            desk.type("total", "30");
-            desk.form().correct().TextChange = [](TextField&) { throw std::runtime_error("paper jam"); };
-            desk.expect("Gradeloom could not finish this step: paper jam");
-            desk.type("correct", "5");
-            QCOMPARE(desk.show("total correct"), "30|5"_L1);
-            desk.choose("FileClose");
+            session.type("total", "30");
+            session.form().correct().TextChange = [](TextField&) { throw std::runtime_error("paper jam"); };
+            session.expectBox("Gradeloom could not finish this step: paper jam");
+            session.type("correct", "5");
+            QCOMPARE(session.texts("total correct"), "30|5"_L1);
+            session.chooseCommand("FileClose");
         });
         _Main();
-        QVERIFY(desk.window() == nullptr && RuntimeExit() == 0);
+        QVERIFY(session.window() == nullptr && RuntimeExit() == 0);
     }
 };
 
