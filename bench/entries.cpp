@@ -1,5 +1,5 @@
 #include "frame/mainscreen.h"
-#include "platform/qt/list_model.h"
+#include "platform/qt/widgets/list_model.h"
 #include "platform/runtime.h"
 #include "session/history.h"
 

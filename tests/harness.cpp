@@ -1,7 +1,7 @@
 #include "tests/harness.h"
 
-#include "platform/qt/line_edit.h"
-#include "platform/qt/open_windows.h"
+#include "platform/qt/system/runtime_object.h"
+#include "platform/qt/widgets/line_edit.h"
 #include "platform/runtime.h"
 
 #include <QClipboard>
@@ -24,7 +24,13 @@ void WriteByProgram(QWidget* field, QString const& text)
 
 void CloseAllWindows()
 {
-    EndOpenWindows();
+    Runtime::instance().windows.clear();
+}
+
+/// A session in the same process may have ended the program.
+void StartAgain()
+{
+    Runtime::instance().isEnding = false;
 }
 
 } // namespace
@@ -66,6 +72,7 @@ QString RowsOf(QAbstractItemModel const& model)
 
 TestSession::TestSession(std::vector<Box> boxes) : expectedBoxes_(std::move(boxes))
 {
+    StartAgain();
     RealDoors();
     PlatformDoors().messageBox = [this](MessageBoxRequest const& request) {
         lastBox = request.text;

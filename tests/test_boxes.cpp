@@ -1,6 +1,6 @@
 #include "tests/harness.h"
 
-#include "platform/qt/desktop_doors.h"
+#include "platform/message_box.h"
 
 #include <QMessageBox>
 #include <QPushButton>

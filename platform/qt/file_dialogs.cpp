@@ -41,7 +41,7 @@ bool HasFamiliarDialogs()
 
 std::optional<std::string> ShowFileDialog(FileDialogRequest const& request)
 {
-    if (Runtime::instance().isEnding()) {
+    if (Runtime::instance().isEnding) {
         return std::nullopt;
     }
     QFileDialog dialog(TopLevel::front(), ToQt(request.title), ToQt(request.folder));

@@ -22,7 +22,7 @@ int MsgBox(std::string_view text, [[maybe_unused]] int buttons, std::string_view
 
 int ShowMessageBox(MessageBoxRequest const& request)
 {
-    if (Runtime::instance().isEnding()) {
+    if (Runtime::instance().isEnding) {
         return kNo;
     }
     QuietBox box(TopLevel::front());

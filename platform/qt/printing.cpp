@@ -112,7 +112,7 @@ void Graphics::NextPage()
 
 bool ShowPrintDialog(QPrinter& printer)
 {
-    if (Runtime::instance().isEnding()) {
+    if (Runtime::instance().isEnding) {
         return false;
     }
     QPrintDialog dialog(&printer, TopLevel::front());

@@ -16,19 +16,19 @@ void Runtime::start(char const* programName)
     name_ = programName;
     arguments_ = {name_.data(), nullptr};
     toolkit_ = std::make_unique<QApplication>(argumentCount_, arguments_.data());
-    isEnding_ = false;
+    isEnding = false;
 }
 
 void Runtime::run()
 {
-    if (!isEnding_) {
+    if (!isEnding) {
         exitStatus = QApplication::exec();
     }
 }
 
 void Runtime::end()
 {
-    isEnding_ = true;
+    isEnding = true;
     QCoreApplication::exit(0);
 }
 

@@ -23,6 +23,7 @@ public:
     std::vector<std::shared_ptr<MenuBar>> menuBars;
     std::shared_ptr<Application> application;
     int exitStatus = 0;
+    bool isEnding = false; ///< since a call of end
 
     /// Creates the toolkit's application object for a program of this name.
     void start(char const* programName);
@@ -31,7 +32,6 @@ public:
     /// Ends the event loops. Open dialogs count as cancelled, open questions as answered with No, and no further
     /// one opens.
     void end();
-    [[nodiscard]] bool isEnding() const { return isEnding_; }
     /// Destroys the windows, then the menu bars, the application object and last the toolkit.
     void finish();
 
@@ -43,5 +43,4 @@ private:
     std::string name_;
     std::vector<char*> arguments_; ///< the toolkit keeps references to them
     int argumentCount_ = 1;
-    bool isEnding_ = false;
 };
