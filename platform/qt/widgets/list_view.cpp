@@ -4,8 +4,9 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPaintEvent>
 #include <QPainter>
-#include <QStyledItemDelegate>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -13,64 +14,24 @@ namespace {
 
 constexpr int kRowHeight = 16; // pixels
 
-/// Draws a cell's text over its full width. A number too wide for its column runs on into the free space of the
-/// next one, so that nothing is cut: each cell draws its own text and what runs in from the left.
-class CellPainter final : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    void paint(QPainter* painter, QStyleOptionViewItem const& option, QModelIndex const& index) const override
-    {
-        bool const selected = option.state.testFlag(QStyle::State_Selected);
-        painter->save();
-        if (selected) {
-            painter->fillRect(option.rect, option.palette.brush(QPalette::Highlight));
-        }
-        painter->setPen(option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
-        painter->setFont(option.font);
-        painter->setClipRect(option.rect, Qt::IntersectClip);
-        drawText(*painter, option.rect, index);
-        if (index.column() > 0) {
-            QModelIndex const left = index.siblingAtColumn(index.column() - 1);
-            drawText(*painter, static_cast<QTableView const*>(option.widget)->visualRect(left), left);
-        }
-        painter->restore();
-    }
-
-private:
-    static void drawText(QPainter& painter, QRect const& place, QModelIndex const& index)
-    {
-        int const alignment = index.data(Qt::TextAlignmentRole).toInt();
-        bool const isRight = (alignment & Qt::AlignRight) != 0;
-        painter.drawText(place.adjusted(1, 0, isRight ? -4 : 0, 0),
-                         alignment | Qt::TextDontClip | Qt::TextSingleLine, index.data().toString());
-    }
-};
-
 } // namespace
 
 ListView::ListView(QWidget* parent) : QTableView(parent), rows_(new ListModel(this))
 {
     setModel(rows_);
-    setItemDelegate(new CellPainter(this));
-    setShowGrid(false);
-    setWordWrap(false);
+    verticalHeader()->setModel(new ListModel(this)); // one that never has a row
+    verticalHeader()->hide();
+    horizontalHeader()->hide();
+    horizontalHeader()->setMinimumSectionSize(1);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     setTabKeyNavigation(false);
     setEditTriggers(NoEditTriggers);
     setSelectionBehavior(SelectRows);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerPixel);
-    horizontalHeader()->hide();
-    horizontalHeader()->setMinimumSectionSize(1);
-    horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    verticalHeader()->hide();
-    verticalHeader()->setMinimumSectionSize(kRowHeight);
-    verticalHeader()->setDefaultSectionSize(kRowHeight);
-    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    connect(rows_, &ListModel::rowsRemoved, this, &ListView::updateGeometries);
+    connect(rows_, &ListModel::modelReset, this, &ListView::updateGeometries);
 }
-
-/// The model is a child of the view: it must not go first.
-ListView::~ListView() = default;
 
 void ListView::setColumnWidths(QString const& widths)
 {
@@ -84,16 +45,172 @@ void ListView::setColumnWidths(QString const& widths)
     }
 }
 
+// --- the places of the rows
+
+int ListView::verticalOffset() const
+{
+    return verticalScrollBar()->value();
+}
+
+int ListView::rowAtHeight(int y) const
+{
+    return (y + verticalOffset()) / kRowHeight;
+}
+
+QRect ListView::rowRect(int first, int last) const
+{
+    return {0, first * kRowHeight - verticalOffset(), viewport()->width(), (last - first + 1) * kRowHeight};
+}
+
+QRect ListView::visualRect(QModelIndex const& index) const
+{
+    if (!index.isValid()) {
+        return {};
+    }
+    int const column = index.column();
+    return {columnViewportPosition(column), rowRect(index.row(), index.row()).top(), columnWidth(column),
+            kRowHeight};
+}
+
+QModelIndex ListView::indexAt(QPoint const& place) const
+{
+    return rows_->index(rowAtHeight(place.y()), columnAt(place.x()));
+}
+
+void ListView::scrollTo(QModelIndex const& index, ScrollHint /*hint*/)
+{
+    QRect const row = rowRect(index.row(), index.row());
+    if (row.top() < 0) {
+        verticalScrollBar()->setValue(verticalOffset() + row.top());
+    } else if (row.bottom() >= viewport()->height()) {
+        verticalScrollBar()->setValue(verticalOffset() + row.bottom() + 1 - viewport()->height());
+    }
+}
+
+void ListView::updateGeometries()
+{
+    horizontalHeader()->setGeometry(0, 0, viewport()->width(), 0);
+    QMetaObject::invokeMethod(horizontalHeader(), "updateGeometries"); // a hidden one stretches its columns so
+    verticalScrollBar()->setSingleStep(kRowHeight);
+    verticalScrollBar()->setPageStep(viewport()->height());
+    verticalScrollBar()->setRange(0, rows_->rowCount() * kRowHeight - viewport()->height());
+    QAbstractItemView::updateGeometries();
+    viewport()->update();
+}
+
+void ListView::rowsInserted(QModelIndex const& parent, int first, int last)
+{
+    QTableView::rowsInserted(parent, first, last);
+    updateGeometries();
+}
+
+void ListView::scrollContentsBy(int dx, int dy)
+{
+    scrollDirtyRegion(dx, dy);
+    viewport()->scroll(dx, dy);
+}
+
+bool ListView::isIndexHidden(QModelIndex const& /*index*/) const
+{
+    return false;
+}
+
+// --- painting
+
+void ListView::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(viewport());
+    int const last = std::min(rowAtHeight(event->rect().bottom()), rows_->rowCount() - 1);
+    for (int row = rowAtHeight(event->rect().top()); row <= last; ++row) {
+        drawRow(painter, row);
+    }
+}
+
+/// A number too wide for its column runs on into the free space of the next one, so that nothing is cut.
+void ListView::drawRow(QPainter& painter, int row) const
+{
+    bool const isSelected = selectionModel()->isRowSelected(row);
+    if (isSelected) {
+        painter.fillRect(rowRect(row, row), palette().brush(QPalette::Highlight));
+    }
+    painter.setPen(palette().color(isSelected ? QPalette::HighlightedText : QPalette::Text));
+    for (int column = 0; column < rows_->columnCount(); ++column) {
+        QModelIndex const index = rows_->index(row, column);
+        int const alignment = index.data(Qt::TextAlignmentRole).toInt();
+        bool const isRight = (alignment & Qt::AlignRight) != 0;
+        painter.drawText(visualRect(index).adjusted(1, 0, isRight ? -4 : 0, 0),
+                         alignment | Qt::TextDontClip | Qt::TextSingleLine, index.data().toString());
+    }
+}
+
+// --- keys and selection
+
 void ListView::keyPressEvent(QKeyEvent* event)
 {
+    bool const isFirstDown = event->key() == Qt::Key_Down && !selectionModel()->hasSelection();
     if (event->matches(QKeySequence::Copy)) {
         copySelectedRows();
+    } else if (isFirstDown && rows_->rowCount() > 0) {
+        selectionModel()->setCurrentIndex(rows_->index(0, 0), selectionCommand(rows_->index(0, 0)));
     } else {
         QTableView::keyPressEvent(event);
     }
 }
 
-/// As a spreadsheet takes it: cells are separated by tabs, rows by line ends.
+QModelIndex ListView::moveCursor(CursorAction action, Qt::KeyboardModifiers /*modifiers*/)
+{
+    int const last = rows_->rowCount() - 1;
+    int const page = std::max(1, viewport()->height() / kRowHeight);
+    int row = currentIndex().isValid() ? currentIndex().row() : -1;
+    switch (action) {
+    case MoveDown:
+    case MoveNext:
+        ++row;
+        break;
+    case MoveUp:
+    case MovePrevious:
+        --row;
+        break;
+    case MovePageDown:
+        row += page;
+        break;
+    case MovePageUp:
+        row -= page;
+        break;
+    case MoveHome:
+        row = 0;
+        break;
+    case MoveEnd:
+        row = last;
+        break;
+    default:
+        break;
+    }
+    return rows_->index(std::clamp(row, 0, std::max(last, 0)), 0);
+}
+
+void ListView::setSelection(QRect const& rect, QItemSelectionModel::SelectionFlags command)
+{
+    int const last = rows_->rowCount() - 1;
+    int const top = std::max(rowAtHeight(rect.top()), 0);
+    int const bottom = std::min(rowAtHeight(rect.bottom()), last);
+    QItemSelection selection;
+    if (top <= bottom) {
+        selection.select(rows_->index(top, 0), rows_->index(bottom, 0));
+    }
+    selectionModel()->select(selection, command);
+}
+
+QRegion ListView::visualRegionForSelection(QItemSelection const& selection) const
+{
+    QRegion region;
+    for (QItemSelectionRange const& range : selection) {
+        region += rowRect(range.top(), range.bottom()) & viewport()->rect();
+    }
+    return region;
+}
+
+/// In the form that a spreadsheet reads: cells separated by tabs, rows by line ends.
 void ListView::copySelectedRows() const
 {
     QModelIndexList selected = selectionModel()->selectedRows();

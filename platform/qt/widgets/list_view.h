@@ -4,22 +4,36 @@
 
 #include <QTableView>
 
-/// The widget of a list: plain rows without grid, header or elided texts.
+/// The widget of a list: rows of one height, without grid, visible header or elided texts. It computes the places
+/// of its rows itself, since the vertical header of a table view grows slow with the number of rows.
 class ListView final : public QTableView {
 public:
     explicit ListView(QWidget* parent);
-    ~ListView() override;
-    ListView(ListView const&) = delete;
-    ListView& operator=(ListView const&) = delete;
 
     [[nodiscard]] ListModel& rows() { return *rows_; }
     [[nodiscard]] ListModel const& rows() const { return *rows_; }
     void setColumnWidths(QString const& widths);
 
+    [[nodiscard]] QRect visualRect(QModelIndex const& index) const override;
+    [[nodiscard]] QModelIndex indexAt(QPoint const& place) const override;
+    void scrollTo(QModelIndex const& index, ScrollHint hint = EnsureVisible) override;
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void updateGeometries() override;
+    void rowsInserted(QModelIndex const& parent, int first, int last) override;
+    void scrollContentsBy(int dx, int dy) override;
+    [[nodiscard]] int verticalOffset() const override;
+    [[nodiscard]] bool isIndexHidden(QModelIndex const& index) const override;
+    [[nodiscard]] QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void setSelection(QRect const& rect, QItemSelectionModel::SelectionFlags command) override;
+    [[nodiscard]] QRegion visualRegionForSelection(QItemSelection const& selection) const override;
 
 private:
+    [[nodiscard]] int rowAtHeight(int y) const;
+    [[nodiscard]] QRect rowRect(int first, int last) const;
+    void drawRow(QPainter& painter, int row) const;
     void copySelectedRows() const;
 
     ListModel* rows_;
