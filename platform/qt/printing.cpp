@@ -64,7 +64,8 @@ public:
                        : QStringLiteral("the printer \"%1\" did not take them").arg(printer_->printerName());
         }
         writer_.reset();
-        return isDrawn ? ReplaceFile(file(), document_.data()) : QStringLiteral("its pages could not be drawn");
+        return isDrawn ? ReplaceFile(file(), document_.data())
+                       : QStringLiteral("its pages could not be drawn");
     }
 
 private:

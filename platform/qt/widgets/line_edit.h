@@ -75,9 +75,10 @@ private:
         }
     }
 
-    QString lastText_; ///< what the program or the last reported change left, to see whether an act changed it
+    QString
+        lastText_; ///< what the program or the last reported change left, to see whether an act changed it
     int limit_;
-    int userActs_ = 0;           ///< acts of the user under way, one inside the other
-    bool isWriting_ = false;     ///< the text changes by no act of the user
-    bool isTypingOver_ = false;  ///< the undo history is from before a command
+    int userActs_ = 0;          ///< acts of the user under way, one inside the other
+    bool isWriting_ = false;    ///< the text changes by no act of the user
+    bool isTypingOver_ = false; ///< the undo history is from before a command
 };

@@ -49,7 +49,9 @@ void LineEdit::pasteFrom(QClipboard::Mode mode)
 
 void LineEdit::inputMethodEvent(QInputMethodEvent* event)
 {
-    bool const changes = !event->commitString().isEmpty() || event->replacementLength() > 0;
+    bool const isComposing = !event->preeditString().isEmpty();
+    bool const changes = !event->commitString().isEmpty() || event->replacementLength() > 0 ||
+                         (isComposing && hasSelectedText()); // which a composition takes the place of
     QPointer<LineEdit> const field(this);
     if ((changes && isEditable() && isConsumed(event->commitString())) || field.isNull()) {
         return;
@@ -137,7 +139,8 @@ void LineEdit::redirectEdit()
     QString const wanted = text();
     setTextQuietly(QString(lastText_));
     if (isEditable()) {
-        QMetaObject::invokeMethod(this, [this, wanted] { takeEdit(wanted); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this, wanted] { takeEdit(wanted); }, Qt::QueuedConnection);
     }
 }
 

@@ -90,7 +90,8 @@ void ListView::scrollTo(QModelIndex const& index, ScrollHint /*hint*/)
 void ListView::updateGeometries()
 {
     horizontalHeader()->setGeometry(0, 0, viewport()->width(), 0);
-    QMetaObject::invokeMethod(horizontalHeader(), "updateGeometries"); // a hidden one stretches its columns so
+    QMetaObject::invokeMethod(horizontalHeader(),
+                              "updateGeometries"); // a hidden one stretches its columns so
     verticalScrollBar()->setSingleStep(kRowHeight);
     verticalScrollBar()->setPageStep(viewport()->height());
     verticalScrollBar()->setRange(0, rows_->rowCount() * kRowHeight - viewport()->height());

@@ -19,7 +19,7 @@ bool IsStray(QKeyEvent const& event)
 
 } // namespace
 
-QuietBox::QuietBox(QWidget* parent) : QMessageBox(parent)
+QuietBox::QuietBox(QWidget* parent) : QMessageBox(parent), quiet_(this)
 {
     quiet_.setSingleShot(true);
     quiet_.setInterval(kQuietTime);
