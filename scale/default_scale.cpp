@@ -1,4 +1,5 @@
 #include "frame/conversions.h"
+#include "frame/form_state.h"
 #include "frame/mainscreen.h"
 #include "platform/message_box.h"
 #include "scale/scale_fields.h"
@@ -36,7 +37,7 @@ void ForceTopOfScale(class mainscreen& window)
 
 void mainscreen::PushButton3_Action()
 {
-    if (ToInteger(CDbl(numstudents().Text())) != 0) {
+    if (EntryCount(*this) != 0) {
         MsgBox(
             "Changing the grading scale to the Default cannot happen until you have reset the scores already "
             "entered.");

@@ -1,4 +1,5 @@
 #include "frame/conversions.h"
+#include "frame/form_state.h"
 #include "frame/mainscreen.h"
 #include "platform/message_box.h"
 #include "session/clear.h"
@@ -9,11 +10,6 @@
 // that the field had when it gained the focus. The minimums besides check the boundary above their band.
 
 namespace {
-
-Integer EntryCount(class mainscreen& window)
-{
-    return ToInteger(CDbl(window.numstudents().Text()));
-}
 
 void StoreText(class mainscreen& window, TextField const& sender)
 {

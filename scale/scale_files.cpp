@@ -1,7 +1,8 @@
 #include "frame/conversions.h"
+#include "frame/file_choice.h"
 #include "frame/file_notices.h"
+#include "frame/form_state.h"
 #include "frame/mainscreen.h"
-#include "platform/file_dialogs.h"
 #include "platform/files.h"
 #include "platform/message_box.h"
 #include "scale/scale_fields.h"
@@ -45,7 +46,7 @@ void WriteScaleFile(class mainscreen& window, FolderItem const& item)
     for (ScaleField const& bound : kScaleFields) {
         stream.WriteLine((window.*bound.field)().Text());
     }
-    TellUnlessSaved(item, stream.Close());
+    ReportUnlessSaved(item, stream.Close());
 }
 
 /// What both save buttons do first: they repair the scale and round its lowest minimum, also when the save is
@@ -53,7 +54,7 @@ void WriteScaleFile(class mainscreen& window, FolderItem const& item)
 bool PassesGate(class mainscreen& window)
 {
     window.gradingscaletest();
-    bool const wasRepaired = ToInteger(CDbl(window.foundaproblem().Text())) == 1;
+    bool const wasRepaired = IsSet(window.foundaproblem());
     Double const lowest = Round(CDbl(window.dminusmin().Text()));
     window.dminusmin().Text(Str(lowest));
     if (0.0 > lowest) {
@@ -86,7 +87,7 @@ void mainscreen::PushButton4_Action()
         if (std::optional<FolderItem> const preferences = GetFolderItem(kPreferences, 0)) {
             WriteScaleFile(*this, *preferences);
         } else {
-            TellUnlessSaved(FolderItem(kPreferences), "there is no folder for the settings of programs");
+            ReportUnlessSaved(FolderItem(kPreferences), "there is no folder for the settings of programs");
         }
     }
     foundaproblem().Text("");
@@ -95,12 +96,7 @@ void mainscreen::PushButton4_Action()
 void mainscreen::PushButton2_Action()
 {
     if (PassesGate(*this)) {
-        SaveAsDialog dialog;
-        dialog.InitialDirectory = Volume(0).Child("Documents", true);
-        dialog.PromptText = "Enter a filename";
-        dialog.SuggestedFileName = "AlternativeGradingScale";
-        dialog.Title = "Save your file";
-        if (std::optional<FolderItem> const item = dialog.ShowModal()) {
+        if (std::optional<FolderItem> const item = ChooseFileToSave("AlternativeGradingScale")) {
             WriteScaleFile(*this, *item);
         }
     }
@@ -109,21 +105,18 @@ void mainscreen::PushButton2_Action()
 
 bool mainscreen::_FileOpen_Action()
 {
-    if (ToInteger(CDbl(numstudents().Text())) != 0) {
+    if (EntryCount(*this) != 0) {
         MsgBox("In order to change the current grading scale, you must first reset the data that has already "
                "been entered.");
         return false;
     }
-    OpenDialog dialog;
-    dialog.InitialDirectory = Volume(0).Child("Documents", true);
-    dialog.Title = "Select a Grading Scale";
-    std::optional<FolderItem> const item = dialog.ShowModal();
+    std::optional<FolderItem> const item = ChooseFileToOpen("Select a Grading Scale");
     if (!item) {
         return false;
     }
     std::string const fault = ReadScaleFile(*this, *item);
     if (!fault.empty()) {
-        TellUnopened(*item, fault);
+        ReportNotOpened(*item, fault);
         return false;
     }
     gradingscaletest();

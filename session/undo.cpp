@@ -1,4 +1,5 @@
 #include "frame/conversions.h"
+#include "frame/form_state.h"
 #include "frame/mainscreen.h"
 #include "session/clear.h"
 #include "session/history.h"
@@ -33,12 +34,12 @@ void StepBack(class mainscreen& window, Integer entrycount)
 /// time.
 bool mainscreen::_EditUndo_Action()
 {
-    Integer entrycount = ToInteger(CDbl(numstudents().Text()));
+    Integer entrycount = EntryCount(*this);
     if (entrycount > 1) {
         StepBack(*this, entrycount);
         --entrycount;
     }
-    if (ToInteger(CDbl(problem().Text())) == 1) {
+    if (IsSet(problem())) {
         ClearResults(*this);
     }
     if (entrycount == 1) {
