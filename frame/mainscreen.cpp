@@ -2,11 +2,27 @@
 
 #include "frame/form_styles.h"
 #include "frame/menu.h"
-#include "scale/scale_fields.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
 constexpr int kMaxLengthOfAmax = 3;
+
+constexpr std::string_view kFormOrder[] = {
+#define BAND_ROW(tab, maximum, l1, t1, w1, h1, minimum, ...) #maximum, #minimum,
+#include "frame/mainscreen.def"
+};
+
+constexpr std::string_view kScaleOrder[] = {
+#define SCALE_FIELD(name, ...) #name,
+#include "scale/bands.def"
+};
+
+static_assert(std::equal(std::begin(kFormOrder), std::end(kFormOrder), std::begin(kScaleOrder),
+                         std::end(kScaleOrder)),
+              "the form must have the fields of the scale, in the order of the scale");
 
 } // namespace
 
@@ -43,7 +59,9 @@ void mainscreen::CreateControls()
     _CreateControls2();
     _CreateControls3();
 
-    WriteDefaultScale(*this);
+#define SCALE_FIELD(name, defaultValue) name().Text(#defaultValue);
+#include "scale/bands.def"
+
     ListBox1().ColumnCount(2);
     ListBox1().RowSelectionType(1);
     amax().MaximumCharactersAllowed(kMaxLengthOfAmax);
@@ -62,12 +80,11 @@ void mainscreen::CreateControls()
     PushButton4().Action = [this] { PushButton4_Action(); };
 
     // amin().KeyDown calls amin_KeyDown, and so on for each scale field.
-#define FIELD(name, text, check)                                                                             \
+#define SCALE_FIELD(name, ...)                                                                               \
     name().KeyDown = [this](TextField& sender, auto const& key) { return name##_KeyDown(sender, key); };     \
     name().GotFocus = [this](TextField& sender) { name##_GotFocus(sender); };                                \
     name().TextChange = [this](TextField& sender) { name##_TextChange(sender); };
-#include "scale/scale_fields.def"
-#undef FIELD
+#include "scale/bands.def"
 }
 
 // _CreateControls0 to _CreateControls3 create the rows of their sections.

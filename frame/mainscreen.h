@@ -15,7 +15,7 @@
 ///   The form: controls, layout, wiring             frame/mainscreen.def, frame/mainscreen.cpp
 ///   The menu: items, which are on, Close           frame/menu.def, frame/mainscreen_menu.cpp
 ///   The other windows' menu commands               frame/author.cpp, presenter/presenter.cpp
-///   The scale: fields, default                     scale/scale_fields.def, scale/default_scale.cpp
+///   The scale: fields, default                     scale/bands.def, scale/default_scale.cpp
 ///   The scale's repair                             scale/scale_repair.cpp
 ///   The scale's files, the event of opening        scale/scale_files.cpp
 ///   The guard of the scale fields                  scale/edit_guard.cpp
@@ -44,12 +44,11 @@ public:
     virtual void PushButton1_Action();                // session/score_entry.cpp
 
     // Three handlers for each scale field, amin_KeyDown and so on. All are in scale/edit_guard.cpp.
-#define FIELD(name, text, check)                                                                             \
+#define SCALE_FIELD(name, ...)                                                                               \
     virtual bool name##_KeyDown(TextField& sender, std::string const& key);                                  \
     virtual void name##_GotFocus(TextField& sender);                                                         \
     virtual void name##_TextChange(TextField& sender);
-#include "scale/scale_fields.def"
-#undef FIELD
+#include "scale/bands.def"
 
     virtual void PushButton2_Action();  // scale/scale_files.cpp
     virtual void PushButton3_Action();  // scale/default_scale.cpp
@@ -85,3 +84,6 @@ private:
 
     mainscreen();
 };
+
+/// How a table names a field of the window.
+using FieldAccessor = TextField& (mainscreen::*)();

@@ -5,20 +5,21 @@
 #include "frame/mainscreen.h"
 #include "platform/files.h"
 #include "platform/message_box.h"
-#include "scale/scale_fields.h"
+#include "scale/bands.h"
 
 #include <array>
 #include <optional>
 
-// A scale file holds the texts of the 24 fields, one to a line, in their order and as they stand. One such
-// file, the Preferences, is the teacher's standing scale.
+// A scale file holds the texts of the scale fields as they are, one to a line, in the order of the scale. One
+// such file, the Preferences, is the teacher's standing scale.
 
 namespace {
 
 constexpr char const* kPreferences = "Preferences";
 
-/// Reads the 24 lines of a scale file, and only then sets the fields. Gives the fault; after one no field is
-/// set.
+static_assert(bound::kCount == 24, "scale files that teachers already have would no longer fit");
+
+/// Sets the fields once all lines have been read. Returns the fault; after one no field has changed.
 std::string ReadScaleFile(class mainscreen& window, FolderItem const& item)
 {
     std::string fault;
@@ -26,7 +27,7 @@ std::string ReadScaleFile(class mainscreen& window, FolderItem const& item)
     if (stream == nullptr) {
         return fault;
     }
-    std::array<std::string, kScaleFieldCount> lines;
+    std::array<std::string, bound::kCount> lines;
     for (std::string& line : lines) {
         line = stream->ReadLine();
     }
@@ -34,8 +35,8 @@ std::string ReadScaleFile(class mainscreen& window, FolderItem const& item)
     if (!stream->Fault().empty()) {
         return stream->Fault();
     }
-    for (std::size_t i = 0; i < kScaleFieldCount; ++i) {
-        (window.*kScaleFields[i].field)().Text(lines[i]);
+    for (std::size_t place = 0; place < lines.size(); ++place) {
+        ScaleField(window, place).Text(lines[place]);
     }
     return "";
 }
@@ -43,21 +44,21 @@ std::string ReadScaleFile(class mainscreen& window, FolderItem const& item)
 void WriteScaleFile(class mainscreen& window, FolderItem const& item)
 {
     TextOutputStream stream = item.CreateTextFile();
-    for (ScaleField const& bound : kScaleFields) {
-        stream.WriteLine((window.*bound.field)().Text());
+    for (std::size_t place = 0; place < bound::kCount; ++place) {
+        stream.WriteLine(ScaleField(window, place).Text());
     }
     ReportUnlessSaved(item, stream.Close());
 }
 
-/// What both save buttons do first: they repair the scale and round its lowest minimum, also when the save is
-/// then refused. True if the scale may be saved.
-bool PassesGate(class mainscreen& window)
+/// Repairs the scale and rounds its lowest minimum, also if the save is then refused. A save is refused when
+/// the scale ends below zero, and once after a repair, so that the teacher looks at the changes first.
+bool MaySave(class mainscreen& window)
 {
     window.gradingscaletest();
     bool const wasRepaired = IsSet(window.foundaproblem());
     Double const lowest = Round(CDbl(window.dminusmin().Text()));
     window.dminusmin().Text(Str(lowest));
-    if (0.0 > lowest) {
+    if (lowest < 0.0) {
         MsgBox("In order to save this grading scale, the minimum for a D- must be greater than or equal to "
                "zero.");
         return false;
@@ -70,7 +71,7 @@ bool PassesGate(class mainscreen& window)
 void mainscreen::getprefs()
 {
     if (std::optional<FolderItem> const preferences = GetFolderItem(kPreferences, 0)) {
-        static_cast<void>(ReadScaleFile(*this, *preferences)); // without the file the scale stays as it is
+        static_cast<void>(ReadScaleFile(*this, *preferences)); // a first start has no such file
     }
 }
 
@@ -83,7 +84,7 @@ void mainscreen::Event_Open()
 
 void mainscreen::PushButton4_Action()
 {
-    if (PassesGate(*this)) {
+    if (MaySave(*this)) {
         if (std::optional<FolderItem> const preferences = GetFolderItem(kPreferences, 0)) {
             WriteScaleFile(*this, *preferences);
         } else {
@@ -95,7 +96,7 @@ void mainscreen::PushButton4_Action()
 
 void mainscreen::PushButton2_Action()
 {
-    if (PassesGate(*this)) {
+    if (MaySave(*this)) {
         if (std::optional<FolderItem> const item = ChooseFileToSave("AlternativeGradingScale")) {
             WriteScaleFile(*this, *item);
         }
@@ -115,10 +116,10 @@ bool mainscreen::_FileOpen_Action()
         return false;
     }
     std::string const fault = ReadScaleFile(*this, *item);
-    if (!fault.empty()) {
+    if (fault.empty()) {
+        gradingscaletest();
+    } else {
         ReportNotOpened(*item, fault);
-        return false;
     }
-    gradingscaletest();
     return false;
 }

@@ -9,11 +9,9 @@
 
 namespace {
 
-using Field = TextField& (mainscreen::*)();
-
-void Empty(class mainscreen& window, std::initializer_list<Field> fields)
+void Empty(class mainscreen& window, std::initializer_list<FieldAccessor> fields)
 {
-    for (Field const field : fields) {
+    for (FieldAccessor const field : fields) {
         (window.*field)().Text("");
     }
 }

@@ -1,7 +1,7 @@
 #include "frame/conversions.h"
 #include "frame/mainscreen.h"
 #include "platform/message_box.h"
-#include "scale/scale_fields.h"
+#include "scale/bands.h"
 #include "session/history.h"
 
 // A press of Grade turns the typed score into one entry.

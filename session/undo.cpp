@@ -3,7 +3,7 @@
 #include "frame/mainscreen.h"
 #include "session/clear.h"
 #include "session/history.h"
-#include "session/letters.h"
+#include "session/letter_grade.h"
 
 namespace {
 
@@ -21,8 +21,8 @@ void RestoreRecord(class mainscreen& window, Integer row)
 /// Takes the last entry back, of at least two.
 void StepBack(class mainscreen& window, Integer entrycount)
 {
-    if (TextField* const bucket = BucketOf(window, window.ListBox4().List(entrycount - 1))) {
-        bucket->Text(Str(Sum(ToInteger(CDbl(bucket->Text())), -1)));
+    if (TextField* const tally = TallyOf(window, window.ListBox4().List(entrycount - 1))) {
+        tally->Text(Str(Sum(ToInteger(CDbl(tally->Text())), -1)));
     }
     RestoreRecord(window, entrycount - 2);
     RemoveEntry(window, entrycount - 1);
