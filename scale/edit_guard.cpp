@@ -3,7 +3,7 @@
 #include "frame/mainscreen.h"
 #include "platform/message_box.h"
 #include "scale/bands.h"
-#include "session/clear.h"
+#include "session/reset.h"
 
 #include <cassert>
 #include <string>

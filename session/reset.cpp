@@ -1,4 +1,4 @@
-#include "session/clear.h"
+#include "session/reset.h"
 
 #include "frame/form_state.h"
 #include "frame/mainscreen.h"
