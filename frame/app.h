@@ -2,8 +2,8 @@
 
 #include "platform/application.h"
 
-/// The application object. It has no logic, only the version data that it is given at start-up; the about
-/// window shows a version of its own.
+/// The application object. It has no logic, only the version data set at start-up, which the about window does not
+/// show: it has a version of its own.
 class App final : public Application {
 public:
     App();

@@ -1,6 +1,7 @@
 #include "frame/author.h"
 
 #include "frame/form_styles.h"
+#include "frame/mainscreen.h"
 #include "frame/menu.h"
 #include "platform/browser.h"
 
@@ -42,32 +43,13 @@ void Author::_CreateControls0()
     _SetProperties(Add<type>(#name),                                                                         \
                    RowProperties(form_style::style, caption, left, top, width, height, tab));
 #include "frame/author.def"
-#undef CONTROL
 }
-
-#define CONTROL(tab, type, name, caption, left, top, width, height, style)                                   \
-    type& Author::name()                                                                                     \
-    {                                                                                                        \
-        return Get<type>(#name);                                                                             \
-    }
-#include "frame/author.def"
-#undef CONTROL
 
 bool Author::PushButton1_MouseDown(PushButton& /*sender*/, int /*x*/, int /*y*/)
 {
     ShowURL(GRADELOOM_WEB_PAGE);
     return false;
 }
-
-#define MENU_SECTION -1
-#define ITEM(under, name, type, text, shortcut)                                                              \
-    MenuItem& Author::name()                                                                                 \
-    {                                                                                                        \
-        return MenuBar().Item(#name);                                                                        \
-    }
-#include "frame/menu.def"
-#undef ITEM
-#undef MENU_SECTION
 
 void Author::AddMenuHandlers()
 {
@@ -83,5 +65,11 @@ void Author::Event_EnableMenuItems()
 bool Author::_FileClose_Action()
 {
     Close();
+    return false;
+}
+
+bool mainscreen::_About_Action()
+{
+    ::Author().Show();
     return false;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "frame/accessors.h"
 #include "frame/windows.h"
 #include "platform/buttons.h"
 #include "platform/label.h"
@@ -12,17 +13,13 @@ public:
     virtual void CreateControls();
     virtual void _CreateControls0();
 
-#define CONTROL(tab, type, name, caption, left, top, width, height, style) virtual type& name();
+#define CONTROL CONTROL_ACCESSOR
 #include "frame/author.def"
-#undef CONTROL
 
     virtual bool PushButton1_MouseDown(PushButton& sender, int x, int y);
 
-#define MENU_SECTION -1
-#define ITEM(under, name, type, text, shortcut) virtual MenuItem& name();
+#define ITEM ITEM_ACCESSOR
 #include "frame/menu.def"
-#undef ITEM
-#undef MENU_SECTION
 
     virtual void AddMenuHandlers();
     virtual void Event_EnableMenuItems();

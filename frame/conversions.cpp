@@ -1,18 +1,23 @@
 #include "frame/conversions.h"
 
+#include "frame/read_number.h"
+
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <iomanip>
 #include <limits>
 #include <locale>
 #include <sstream>
 
-// Streams with the classic locale carry out the digits: they are exact on every platform, where the C
-// functions follow the user's decimal comma and the newer character conversions don't exist everywhere.
+// Streams with the classic locale convert the digits: they are exact on every platform, while the C functions
+// follow the user's locale and std::from_chars for doubles is not available everywhere.
 
 namespace {
 
 constexpr Double kLargest = std::numeric_limits<Double>::max();
+constexpr Integer kLowestInteger = std::numeric_limits<Integer>::min();
+constexpr Integer kHighestInteger = std::numeric_limits<Integer>::max();
 constexpr int kStrDigits = 7;
 constexpr int kFormatDigits = 15;
 
@@ -23,7 +28,7 @@ struct Decimal {
     int exponent = 0;
 };
 
-/// The number at so many significant digits, correctly rounded, exact ties to even.
+/// The number rounded to this many significant digits, exact ties to even.
 Decimal Significant(Double number, int count)
 {
     std::ostringstream stream;
@@ -36,8 +41,8 @@ Decimal Significant(Double number, int count)
     return decimal;
 }
 
-/// The decimal laid out plainly, with the decimals past the limit cut and no zeros at the end.
-std::string Plain(Decimal const& decimal, std::size_t mostDecimals)
+/// Plain notation. Decimals beyond the limit are cut, then zeros at the end dropped.
+std::string Plain(Decimal const& decimal, std::size_t maxDecimals)
 {
     std::string whole = "0";
     std::string fraction;
@@ -50,13 +55,13 @@ std::string Plain(Decimal const& decimal, std::size_t mostDecimals)
         whole = digits.substr(0, point);
         fraction = digits.substr(point);
     }
-    fraction.resize(std::min(fraction.size(), mostDecimals));
+    fraction.resize(std::min(fraction.size(), maxDecimals));
     fraction.erase(fraction.find_last_not_of('0') + 1);
     std::string const text = fraction.empty() ? whole : whole + "." + fraction;
     return decimal.negative && text != "0" ? "-" + text : text;
 }
 
-/// A value that needs no decimals: whole, infinite or no number.
+/// Whether the value needs no decimals: it is whole, infinite or not a number.
 bool IsPlainValue(Double number)
 {
     return !std::isfinite(number) || std::trunc(number) == number;
@@ -74,118 +79,16 @@ std::string PlainValue(Double number)
     return stream.str();
 }
 
-bool IsDigit(char character)
-{
-    return character >= '0' && character <= '9';
-}
-
-std::size_t DigitsAt(std::string_view text, std::size_t start)
-{
-    std::size_t end = start;
-    while (end < text.size() && IsDigit(text[end])) {
-        ++end;
-    }
-    return end - start;
-}
-
-/// The whole digits of a number, without the commas between their groups of three.
-std::string TakeWhole(std::string_view& text)
-{
-    constexpr std::size_t kGroup = 3;
-    std::size_t const first = DigitsAt(text, 0);
-    std::string digits(text.substr(0, first));
-    text.remove_prefix(first);
-    bool const mayGroup = first >= 1 && first <= kGroup && digits[0] != '0';
-    while (mayGroup && !text.empty() && text[0] == ',' && DigitsAt(text, 1) == kGroup) {
-        digits += text.substr(1, kGroup);
-        text.remove_prefix(kGroup + 1);
-    }
-    return digits;
-}
-
-/// The digits behind the decimal point. After groups of thousands a comma is no decimal comma.
-std::string TakeFraction(std::string_view& text, bool grouped)
-{
-    bool const isPoint = !text.empty() && text[0] == '.';
-    bool const isComma = !text.empty() && text[0] == ',' && !grouped && DigitsAt(text, 1) > 0;
-    if (!isPoint && !isComma) {
-        return "";
-    }
-    std::size_t const count = DigitsAt(text, 1);
-    std::string digits(text.substr(1, count));
-    text.remove_prefix(count + 1);
-    return digits;
-}
-
-/// The exponent that follows directly, 0 if there is none; a huge one is cut to what decides all the same.
-int TakeExponent(std::string_view text)
-{
-    constexpr int kDecides = 1'000'000'000;
-    if (text.empty() || (text[0] != 'e' && text[0] != 'E')) {
-        return 0;
-    }
-    bool const hasSign = text.size() > 1 && (text[1] == '+' || text[1] == '-');
-    bool const isNegative = hasSign && text[1] == '-';
-    int exponent = 0;
-    for (char const digit : text.substr(hasSign ? 2 : 1)) {
-        if (!IsDigit(digit) || exponent >= kDecides / 10) {
-            break;
-        }
-        exponent = 10 * exponent + (digit - '0');
-    }
-    return isNegative ? -exponent : exponent;
-}
-
-/// The value of 0.digits times a power of ten; digits start with another one than 0.
-Double ValueOf(std::string const& digits, std::int64_t exponent)
-{
-    constexpr int kTooLarge = 310; // 1e309 is past the largest finite number
-    constexpr int kTooSmall = -330;
-    if (exponent > kTooLarge) {
-        return kLargest;
-    }
-    if (exponent < kTooSmall) {
-        return 0.0;
-    }
-    std::istringstream stream("0." + digits + "e" + std::to_string(exponent));
-    stream.imbue(std::locale::classic());
-    Double value = 0.0;
-    stream >> value;
-    return std::min(value, kLargest);
-}
-
-Double Read(std::string_view text, bool withExponent)
-{
-    text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
-    bool const hasSign = !text.empty() && (text[0] == '+' || text[0] == '-');
-    bool const isNegative = hasSign && text[0] == '-';
-    text.remove_prefix(hasSign ? 1 : 0);
-
-    std::size_t const length = text.size();
-    std::string const whole = TakeWhole(text);
-    bool const grouped = length - text.size() > whole.size();
-    std::string const fraction = TakeFraction(text, grouped);
-    std::string digits = whole + fraction;
-    std::size_t const leading = std::min(digits.find_first_not_of('0'), digits.size());
-    if (leading == digits.size()) {
-        return 0.0;
-    }
-    digits.erase(0, leading);
-    auto const magnitude = static_cast<std::int64_t>(whole.size()) - static_cast<std::int64_t>(leading);
-    Double const value = ValueOf(digits, magnitude + (withExponent ? TakeExponent(text) : 0));
-    return isNegative ? -value : value;
-}
-
 } // namespace
 
 Double Val(std::string_view text)
 {
-    return Read(text, false);
+    return ReadNumber(text, false);
 }
 
 Double CDbl(std::string_view text)
 {
-    return Read(text, true);
+    return ReadNumber(text, true);
 }
 
 std::string Str(Double number)
@@ -208,6 +111,7 @@ std::string Format(Double number, std::string_view pattern)
     if (IsPlainValue(number)) {
         return PlainValue(number);
     }
+    assert(pattern.find('.') != std::string_view::npos);
     std::size_t const decimals = pattern.size() - pattern.find('.') - 1;
     return Plain(Significant(number, kFormatDigits), decimals);
 }
@@ -219,24 +123,20 @@ Double Round(Double number)
 
 Integer ToInteger(Double number)
 {
-    constexpr Integer kLow = std::numeric_limits<Integer>::min();
-    constexpr Integer kHigh = std::numeric_limits<Integer>::max();
     if (std::isnan(number)) {
         return 0;
     }
-    if (number <= static_cast<Double>(kLow)) {
-        return kLow;
+    if (number <= static_cast<Double>(kLowestInteger)) {
+        return kLowestInteger;
     }
     // The highest Integer has no Double of its own; the nearest is one above it.
-    return number >= static_cast<Double>(kHigh) ? kHigh : static_cast<Integer>(number);
+    return number >= static_cast<Double>(kHighestInteger) ? kHighestInteger : static_cast<Integer>(number);
 }
 
 Integer Sum(Integer one, Integer other)
 {
-    constexpr Integer kLow = std::numeric_limits<Integer>::min();
-    constexpr Integer kHigh = std::numeric_limits<Integer>::max();
     if (other > 0) {
-        return one > kHigh - other ? kHigh : one + other;
+        return one > kHighestInteger - other ? kHighestInteger : one + other;
     }
-    return one < kLow - other ? kLow : one + other;
+    return one < kLowestInteger - other ? kLowestInteger : one + other;
 }

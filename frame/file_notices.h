@@ -4,10 +4,12 @@
 
 #include <string>
 
-// What the user is told of a file that failed. Nothing is told where the fault is empty.
+// The notices for files and printouts that fail. A fault is the platform's reason in words.
 
-void TellUnlessSaved(FolderItem const& item, std::string const& fault);
-void TellUnopened(FolderItem const& item, std::string const& fault);
+/// Shows nothing if the fault is empty, as it is after a save that succeeded.
+void ReportUnlessSaved(FolderItem const& item, std::string const& fault);
 
-/// A print job that failed; the file name is empty where it was to go to a printer.
-void TellUnprinted(std::string const& fileName, std::string const& reason);
+void ReportNotOpened(FolderItem const& item, std::string const& fault);
+
+/// The file name is empty if the job was for a printer.
+void ReportNotPrinted(std::string const& fileName, std::string const& reason);

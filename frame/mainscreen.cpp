@@ -2,15 +2,27 @@
 
 #include "frame/form_styles.h"
 #include "frame/menu.h"
-#include "scale/scale_fields.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
-constexpr int kBandLabelWidth = 30;
-constexpr int kBandLabelHeight = 20;
-constexpr int kWordLabelWidth = 26;
-constexpr int kWordLabelHeight = 21;
-constexpr int kMostCharactersOfAMaximum = 3;
+constexpr int kMaxLengthOfAmax = 3;
+
+constexpr std::string_view kFormOrder[] = {
+#define BAND_ROW(tab, maximum, l1, t1, w1, h1, minimum, ...) #maximum, #minimum,
+#include "frame/mainscreen.def"
+};
+
+constexpr std::string_view kScaleOrder[] = {
+#define SCALE_FIELD(name, ...) #name,
+#include "scale/bands.def"
+};
+
+static_assert(std::equal(std::begin(kFormOrder), std::end(kFormOrder), std::begin(kScaleOrder),
+                         std::end(kScaleOrder)),
+              "the form must have the fields of the scale, in the order of the scale");
 
 } // namespace
 
@@ -50,10 +62,12 @@ void mainscreen::CreateControls()
     _CreateControls2();
     _CreateControls3();
 
-    WriteDefaultScale(*this);
+#define SCALE_FIELD(name, defaultValue) name().Text(#defaultValue);
+#include "scale/bands.def"
+
     ListBox1().ColumnCount(2);
     ListBox1().RowSelectionType(1);
-    amax().MaximumCharactersAllowed(kMostCharactersOfAMaximum);
+    amax().MaximumCharactersAllowed(kMaxLengthOfAmax);
     PushButton1().Default(true);
     PushButton2().Tooltip(
         "\"Save Alternative Grading Scale\" allows the user to save multiple grading scales "
@@ -69,83 +83,24 @@ void mainscreen::CreateControls()
     PushButton4().Action = [this] { PushButton4_Action(); };
 
     // amin().KeyDown calls amin_KeyDown, and so on for each scale field.
-#define FIELD(field, text, check)                                                                            \
-    field().KeyDown = [this](TextField& sender, auto const& key) { return field##_KeyDown(sender, key); };   \
-    field().GotFocus = [this](TextField& sender) { field##_GotFocus(sender); };                              \
-    field().TextChange = [this](TextField& sender) { field##_TextChange(sender); };
-#include "scale/scale_fields.def"
-#undef FIELD
+#define SCALE_FIELD(name, ...)                                                                               \
+    name().KeyDown = [this](TextField& sender, auto const& key) { return name##_KeyDown(sender, key); };     \
+    name().GotFocus = [this](TextField& sender) { name##_GotFocus(sender); };                                \
+    name().TextChange = [this](TextField& sender) { name##_TextChange(sender); };
+#include "scale/bands.def"
 }
 
-// The accessors: TextField& mainscreen::total() and so on.
-#define FORM_SECTION -1
-#define CONTROL(tab, type, name, caption, left, top, width, height, style)                                   \
-    type& mainscreen::name()                                                                                 \
-    {                                                                                                        \
-        return Get<type>(#name);                                                                             \
-    }
-#define CHILD CONTROL
-#define BAND(tab, maximum, l1, t1, w1, h1, minimum, l2, t2, w2, h2, label, caption, l3, t3, to, l4, t4)      \
-    TextField& mainscreen::maximum()                                                                         \
-    {                                                                                                        \
-        return Get<TextField>(#maximum);                                                                     \
-    }                                                                                                        \
-    TextField& mainscreen::minimum()                                                                         \
-    {                                                                                                        \
-        return Get<TextField>(#minimum);                                                                     \
-    }                                                                                                        \
-    Label& mainscreen::label()                                                                               \
-    {                                                                                                        \
-        return Get<Label>(#label);                                                                           \
-    }                                                                                                        \
-    Label& mainscreen::to()                                                                                  \
-    {                                                                                                        \
-        return Get<Label>(#to);                                                                              \
-    }
-#include "frame/mainscreen.def"
-#undef BAND
-#undef CHILD
-#undef CONTROL
-#undef FORM_SECTION
-
-// The creation of the controls, a row of the form each.
+// _CreateControls0 to _CreateControls3 create the rows of their sections.
 #define CREATE(tab, type, name, caption, left, top, width, height, style, parent)                            \
     _SetProperties(Add<type>(#name, parent),                                                                 \
                    RowProperties(form_style::style, caption, left, top, width, height, tab));
+#define SECTION(function)                                                                                    \
+    void mainscreen::function()                                                                              \
+    {
+#define END_SECTION(function) }
 #define CONTROL(tab, type, name, caption, left, top, width, height, style)                                   \
     CREATE(tab, type, name, caption, left, top, width, height, style, nullptr)
 #define CHILD(tab, type, name, caption, left, top, width, height, style)                                     \
     CREATE(tab, type, name, caption, left, top, width, height, style, &GroupBox1())
-#define BAND(tab, maximum, l1, t1, w1, h1, minimum, l2, t2, w2, h2, label, caption, l3, t3, to, l4, t4)      \
-    CONTROL(tab, TextField, maximum, caption " maximum", l1, t1, w1, h1, input)                              \
-    CONTROL(tab + 1, TextField, minimum, caption " minimum", l2, t2, w2, h2, input)                          \
-    CONTROL(tab + 2, Label, label, caption, l3, t3, kBandLabelWidth, kBandLabelHeight, plain)                \
-    CONTROL(tab + 3, Label, to, "to ", l4, t4, kWordLabelWidth, kWordLabelHeight, plain)
-
-void mainscreen::_CreateControls0()
-{
-#define FORM_SECTION 0
 #include "frame/mainscreen.def"
-#undef FORM_SECTION
-}
-
-void mainscreen::_CreateControls1()
-{
-#define FORM_SECTION 1
-#include "frame/mainscreen.def"
-#undef FORM_SECTION
-}
-
-void mainscreen::_CreateControls2()
-{
-#define FORM_SECTION 2
-#include "frame/mainscreen.def"
-#undef FORM_SECTION
-}
-
-void mainscreen::_CreateControls3()
-{
-#define FORM_SECTION 3
-#include "frame/mainscreen.def"
-#undef FORM_SECTION
-}
+#undef CREATE

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "frame/accessors.h"
 #include "frame/windows.h"
 #include "platform/buttons.h"
 #include "platform/group_box.h"
@@ -12,8 +13,9 @@
 /// text, the hidden ones included; it has no data besides, and its handlers meet only in its controls.
 ///
 ///   The form: controls, layout, wiring             frame/mainscreen.def, frame/mainscreen.cpp
-///   The menu: items, handlers of windows           frame/menu.def, frame/mainscreen_menu.cpp
-///   The scale's fields and its default             scale/scale_fields.def, scale/default_scale.cpp
+///   The menu: items, which are on, Close           frame/menu.def, frame/mainscreen_menu.cpp
+///   The other windows' menu commands               frame/author.cpp, presenter/presenter.cpp
+///   The scale: fields, default                     scale/bands.def, scale/default_scale.cpp
 ///   The scale's repair                             scale/scale_repair.cpp
 ///   The scale's files, the event of opening        scale/scale_files.cpp
 ///   The guard of the scale fields                  scale/edit_guard.cpp
@@ -21,7 +23,7 @@
 ///   The letter and the tallies                     session/letter_grade.cpp
 ///   The list of entries                            session/history.cpp
 ///   Undo                                           session/undo.cpp
-///   Resets, and the guard of the number of points  session/reset.cpp
+///   Resets, changes of the number of points        session/reset.cpp
 ///   Print and Export                               reports/print_report.cpp, reports/export.cpp
 class mainscreen final : public Window {
 public:
@@ -33,59 +35,43 @@ public:
     virtual void _CreateControls2();
     virtual void _CreateControls3();
 
-    // One accessor for each control: total(), missed(), correct() and so on, as frame/mainscreen.def has
-    // them.
-#define FORM_SECTION -1
-#define CONTROL(tab, type, name, caption, left, top, width, height, style) virtual type& name();
-#define CHILD CONTROL
-#define BAND(tab, maximum, l1, t1, w1, h1, minimum, l2, t2, w2, h2, label, caption, l3, t3, to, l4, t4)      \
-    virtual TextField& maximum();                                                                            \
-    virtual TextField& minimum();                                                                            \
-    virtual Label& label();                                                                                  \
-    virtual Label& to();
+    // One accessor for each control, total() and so on.
+#define CONTROL CONTROL_ACCESSOR
 #include "frame/mainscreen.def"
-#undef BAND
-#undef CHILD
-#undef CONTROL
-#undef FORM_SECTION
 
     // The events of the controls.
     virtual void total_TextChange(TextField& sender); // session/reset.cpp
     virtual void PushButton1_Action();                // session/score_entry.cpp
 
-    // Three handlers for each scale field: amin_KeyDown and so on, in scale/edit_guard.cpp.
-#define FIELD(field, text, check)                                                                            \
-    virtual bool field##_KeyDown(TextField& sender, std::string const& key);                                 \
-    virtual void field##_GotFocus(TextField& sender);                                                        \
-    virtual void field##_TextChange(TextField& sender);
-#include "scale/scale_fields.def"
-#undef FIELD
+    // Three handlers for each scale field, amin_KeyDown and so on. All are in scale/edit_guard.cpp.
+#define SCALE_FIELD(name, ...)                                                                               \
+    virtual bool name##_KeyDown(TextField& sender, std::string const& key);                                  \
+    virtual void name##_GotFocus(TextField& sender);                                                         \
+    virtual void name##_TextChange(TextField& sender);
+#include "scale/bands.def"
 
     virtual void PushButton2_Action();  // scale/scale_files.cpp
     virtual void PushButton3_Action();  // scale/default_scale.cpp
     virtual void BevelButton1_Action(); // session/reset.cpp
     virtual void PushButton4_Action();  // scale/scale_files.cpp
 
-    // One accessor for each menu item: FileOpen(), EditUndo() and so on, as frame/menu.def has them.
-#define MENU_SECTION -1
-#define ITEM(under, name, type, text, shortcut) virtual MenuItem& name();
+    // One accessor for each menu item, FileOpen() and so on.
+#define ITEM ITEM_ACCESSOR
 #include "frame/menu.def"
-#undef ITEM
-#undef MENU_SECTION
 
     virtual void AddMenuHandlers();
     virtual void Event_EnableMenuItems();
     virtual void Event_Open(); // scale/scale_files.cpp
 
-    // The menu commands. The result is false on every path.
-    virtual bool _About_Action();
+    // The menu commands. None keeps its command from the platform, so all return false.
+    virtual bool _About_Action(); // frame/author.cpp
     virtual bool _FileClose_Action();
-    virtual bool _FileReset_Action();  // session/reset.cpp
-    virtual bool _EditUndo_Action();   // session/undo.cpp
-    virtual bool _FilePrint_Action();  // reports/print_report.cpp
-    virtual bool _FileExport_Action(); // reports/export.cpp
-    virtual bool _FileOpen_Action();   // scale/scale_files.cpp
-    virtual bool _filepresent_Action();
+    virtual bool _FileReset_Action();   // session/reset.cpp
+    virtual bool _EditUndo_Action();    // session/undo.cpp
+    virtual bool _FilePrint_Action();   // reports/print_report.cpp
+    virtual bool _FileExport_Action();  // reports/export.cpp
+    virtual bool _FileOpen_Action();    // scale/scale_files.cpp
+    virtual bool _filepresent_Action(); // presenter/presenter.cpp
 
     virtual void getprefs();         // scale/scale_files.cpp
     virtual void percenttest();      // session/letter_grade.cpp
@@ -98,3 +84,6 @@ private:
 
     mainscreen();
 };
+
+/// How a table names a field of the window.
+using FieldAccessor = TextField& (mainscreen::*)();

@@ -1,19 +1,5 @@
 #include "frame/mainscreen.h"
 
-#include "frame/author.h"
-#include "presenter/presenter.h"
-
-// The accessors: MenuItem& mainscreen::FileOpen() and so on.
-#define MENU_SECTION -1
-#define ITEM(under, name, type, text, shortcut)                                                              \
-    MenuItem& mainscreen::name()                                                                             \
-    {                                                                                                        \
-        return MenuBar().Item(#name);                                                                        \
-    }
-#include "frame/menu.def"
-#undef ITEM
-#undef MENU_SECTION
-
 void mainscreen::AddMenuHandlers()
 {
     _AddMenuHandler(*this, "About", [this] { return _About_Action(); });
@@ -38,20 +24,8 @@ void mainscreen::Event_EnableMenuItems()
     filepresent().Enabled(true);
 }
 
-bool mainscreen::_About_Action()
-{
-    ::Author().Show();
-    return false;
-}
-
 bool mainscreen::_FileClose_Action()
 {
     Close();
-    return false;
-}
-
-bool mainscreen::_filepresent_Action()
-{
-    ::Window1().Show();
     return false;
 }

@@ -26,32 +26,10 @@ void Menu::Add(std::string_view under, std::string_view name, std::string_view t
     }
 }
 
+// Untitled0 to Untitled3 append the rows of their parts of the table.
+#define MENU(function)                                                                                       \
+    void Menu::function()                                                                                    \
+    {
+#define END_MENU(function) }
 #define ITEM(under, name, type, text, shortcut) Add<type>(under, #name, text, shortcut);
-
-void Menu::Untitled0()
-{
-#define MENU_SECTION 0
 #include "frame/menu.def"
-#undef MENU_SECTION
-}
-
-void Menu::Untitled1()
-{
-#define MENU_SECTION 1
-#include "frame/menu.def"
-#undef MENU_SECTION
-}
-
-void Menu::Untitled2()
-{
-#define MENU_SECTION 2
-#include "frame/menu.def"
-#undef MENU_SECTION
-}
-
-void Menu::Untitled3()
-{
-#define MENU_SECTION 3
-#include "frame/menu.def"
-#undef MENU_SECTION
-}

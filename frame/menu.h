@@ -3,8 +3,8 @@
 #include "frame/windows.h"
 #include "platform/menu.h"
 
-/// The one menu bar of the run, shown by all three windows. It never changes; which items are on depends on
-/// the window in front. What the items do stands with the windows: see frame/mainscreen.h.
+/// The one menu bar, shown by all three windows. Its items never change; which of them are on depends on the
+/// window in front. What they do is defined by the windows: see frame/mainscreen.h.
 class Menu final : public MenuBar {
 private:
     friend class Menu& ::Menu();

@@ -1,8 +1,8 @@
 #pragma once
 
-// The accessors of the three windows and of the menu bar. Each gives the one instance of its class and makes
-// it if there is none. They are declared ahead of the classes of the same names; inside a class's own members
-// write ::Author() and so on, since there the plain name is the class and would build a second window.
+// The accessors of the three windows and of the menu bar. Each returns the one instance of its class and creates
+// it if there is none. They are declared before the classes of the same names; inside a class's own members
+// write ::Author() and so on, since there the plain name is the class and would create a second window.
 
 class Menu;
 class mainscreen;

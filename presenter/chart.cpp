@@ -4,14 +4,26 @@
 
 namespace {
 
-constexpr Integer kMostPoints = 105;
-constexpr Integer kFirstOfSecondPair = 36; // the first number missed that the second column pair shows
+constexpr Integer kMaxPoints = 105;
+constexpr Integer kFirstOfSecondPair = 36; // the first number missed in the second pair of columns
 constexpr Integer kFirstOfThirdPair = 71;
 
-/// Moves the rows of a chart list that belong to the next column pair there, by way of two hidden lists: the
-/// percentages, and a count of the points left that says how many rows move.
-void Split(Listbox& from, Listbox& to, Listbox& percentages, Listbox& pointsLeft, Integer firstRow,
-           Integer first, Integer points)
+/// Fills a list with the whole chart. A test worth 0 points has one row, whose percentage is not a number.
+void Fill(Listbox& list, Integer points)
+{
+    for (Integer missed = 0; missed <= points; ++missed) {
+        Double const percentage = static_cast<Double>(points - missed) / static_cast<Double>(points) * 100.0;
+        list.AddRow(Str(-missed));
+        list.ColumnCount(2);
+        list.CellAlignment(missed, 1, Listbox::Right);
+        list.Cell(missed, 1, Str(percentage));
+    }
+}
+
+/// Moves the rows from the first number missed on to the next pair of columns. Two hidden lists help: one holds
+/// the percentages, the other counts the points left down to 0, so its first row says how many rows follow.
+void MoveRest(Listbox& from, Listbox& to, Listbox& percentages, Listbox& pointsLeft, Integer firstRow,
+              Integer first, Integer points)
 {
     for (Integer missed = first; missed <= points; ++missed) {
         to.ColumnCount(2);
@@ -39,22 +51,17 @@ void Window1::PushButton1_Action()
         list->DeleteAllRows();
     }
     Integer const points = ToInteger(Val(EditField1().Text()));
-    if (points > kMostPoints) {
+    if (points > kMaxPoints) {
         MsgBox("This feature of Gradeloom can only present 105 percentages.");
         return;
     }
-    for (Integer missed = 0; missed <= points; ++missed) {
-        Double const percentage = static_cast<Double>(points - missed) / static_cast<Double>(points) * 100.0;
-        ListBox1().AddRow(Str(-missed));
-        ListBox1().ColumnCount(2);
-        ListBox1().CellAlignment(missed, 1, Listbox::Right);
-        ListBox1().Cell(missed, 1, Str(percentage));
-    }
+    Fill(ListBox1(), points);
     if (points >= kFirstOfSecondPair) {
-        Split(ListBox1(), ListBox2(), ListBox3(), ListBox4(), kFirstOfSecondPair, kFirstOfSecondPair, points);
+        MoveRest(ListBox1(), ListBox2(), ListBox3(), ListBox4(), kFirstOfSecondPair, kFirstOfSecondPair,
+                 points);
     }
     if (points >= kFirstOfThirdPair) {
-        Split(ListBox2(), ListBox5(), ListBox6(), ListBox7(), kFirstOfThirdPair - kFirstOfSecondPair,
-              kFirstOfThirdPair, points);
+        MoveRest(ListBox2(), ListBox5(), ListBox6(), ListBox7(), kFirstOfThirdPair - kFirstOfSecondPair,
+                 kFirstOfThirdPair, points);
     }
 }

@@ -1,6 +1,7 @@
 #include "presenter/presenter.h"
 
 #include "frame/form_styles.h"
+#include "frame/mainscreen.h"
 #include "frame/menu.h"
 
 class Window1& Window1()
@@ -44,26 +45,7 @@ void Window1::_CreateControls0()
     _SetProperties(Add<type>(#name),                                                                         \
                    RowProperties(form_style::style, caption, left, top, width, height, tab));
 #include "presenter/presenter.def"
-#undef CONTROL
 }
-
-#define CONTROL(tab, type, name, caption, left, top, width, height, style)                                   \
-    type& Window1::name()                                                                                    \
-    {                                                                                                        \
-        return Get<type>(#name);                                                                             \
-    }
-#include "presenter/presenter.def"
-#undef CONTROL
-
-#define MENU_SECTION -1
-#define ITEM(under, name, type, text, shortcut)                                                              \
-    MenuItem& Window1::name()                                                                                \
-    {                                                                                                        \
-        return MenuBar().Item(#name);                                                                        \
-    }
-#include "frame/menu.def"
-#undef ITEM
-#undef MENU_SECTION
 
 void Window1::AddMenuHandlers()
 {
@@ -79,5 +61,11 @@ void Window1::Event_EnableMenuItems()
 bool Window1::_FileClose_Action()
 {
     Close();
+    return false;
+}
+
+bool mainscreen::_filepresent_Action()
+{
+    ::Window1().Show();
     return false;
 }

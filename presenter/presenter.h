@@ -1,5 +1,6 @@
 #pragma once
 
+#include "frame/accessors.h"
 #include "frame/windows.h"
 #include "platform/buttons.h"
 #include "platform/label.h"
@@ -7,8 +8,8 @@
 #include "platform/text_field.h"
 #include "platform/window.h"
 
-/// The Presenter: for a number of points it charts the percentage that each possible number missed gives. It
-/// shares nothing with a session.
+/// The Presenter: for a number of points it charts the percentage for each possible number missed. It shares
+/// nothing with a session.
 ///
 ///   The form and the menu  presenter/presenter.def, presenter/presenter.cpp
 ///   The chart              presenter/chart.cpp
@@ -18,17 +19,13 @@ public:
     virtual void CreateControls();
     virtual void _CreateControls0();
 
-#define CONTROL(tab, type, name, caption, left, top, width, height, style) virtual type& name();
+#define CONTROL CONTROL_ACCESSOR
 #include "presenter/presenter.def"
-#undef CONTROL
 
     virtual void PushButton1_Action(); // presenter/chart.cpp
 
-#define MENU_SECTION -1
-#define ITEM(under, name, type, text, shortcut) virtual MenuItem& name();
+#define ITEM ITEM_ACCESSOR
 #include "frame/menu.def"
-#undef ITEM
-#undef MENU_SECTION
 
     virtual void AddMenuHandlers();
     virtual void Event_EnableMenuItems();

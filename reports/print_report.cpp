@@ -1,5 +1,6 @@
 #include "frame/conversions.h"
 #include "frame/file_notices.h"
+#include "frame/form_state.h"
 #include "frame/mainscreen.h"
 #include "platform/message_box.h"
 #include "platform/printing.h"
@@ -8,18 +9,21 @@
 #include <string>
 
 // The report: a heading, a summary and one line for each entry, in blocks of forty rows, two blocks to a
-// page. Places are in units of 1/72 inch from the top left corner of the paper.
+// page. Places are in units of 1/72 inch from the top left corner of the paper, lines are placed by their base.
 
 namespace {
 
 constexpr Integer kRowsInBlock = 40;
-constexpr Integer kMostEntries = 160;
+constexpr Integer kRowsOnPage = 2 * kRowsInBlock;
+constexpr Integer kMaxEntries = 160;
 constexpr double kLeftBlock = 50.0;
 constexpr double kRightBlock = 300.0;
 constexpr double kHeadingLine = 50.0;
 constexpr double kSummaryLine = 80.0;
 constexpr double kAboveRows = 100.0;
 constexpr double kRowDistance = 15.0;
+
+static_assert(kMaxEntries == 2 * kRowsOnPage, "the report has two pages");
 
 void Draw(Graphics& page, std::string const& text, double x, double y)
 {
@@ -33,7 +37,7 @@ std::string StudentLine(class mainscreen& window, Integer row)
            std::string(12, ' ') + window.ListBox1().Cell(row, 1) + " %";
 }
 
-/// Draws the rows from this one on, as many as there are but no more than a block holds.
+/// Draws the lines from the first row on, until the block is full or the entries end.
 void DrawBlock(Graphics& page, class mainscreen& window, Integer first, Integer entrycount, double x)
 {
     double y = kAboveRows;
@@ -47,7 +51,7 @@ void DrawBlock(Graphics& page, class mainscreen& window, Integer first, Integer 
 
 bool mainscreen::_FilePrint_Action()
 {
-    Integer const entrycount = ToInteger(CDbl(numstudents().Text()));
+    Integer const entrycount = EntryCount(*this);
     if (entrycount <= 0) {
         MsgBox("There is currently no data to send to the printer.");
         return false;
@@ -56,8 +60,8 @@ bool mainscreen::_FilePrint_Action()
     if (page == nullptr) {
         return false;
     }
-    page->Failed = TellUnprinted;
-    if (entrycount > kMostEntries) {
+    page->Failed = ReportNotPrinted;
+    if (entrycount > kMaxEntries) {
         MsgBox("Gradeloom will only print the first 160 entries. If you need to print more scores than 160, "
                "please contact the author at " GRADELOOM_CONTACT);
     }
@@ -68,10 +72,10 @@ bool mainscreen::_FilePrint_Action()
          kLeftBlock, kSummaryLine);
     DrawBlock(*page, *this, 0, entrycount, kLeftBlock);
     DrawBlock(*page, *this, kRowsInBlock, entrycount, kRightBlock);
-    if (entrycount > 2 * kRowsInBlock) {
+    if (entrycount > kRowsOnPage) {
         page->NextPage();
-        DrawBlock(*page, *this, 2 * kRowsInBlock, entrycount, kLeftBlock);
-        DrawBlock(*page, *this, 3 * kRowsInBlock, entrycount, kRightBlock);
+        DrawBlock(*page, *this, kRowsOnPage, entrycount, kLeftBlock);
+        DrawBlock(*page, *this, kRowsOnPage + kRowsInBlock, entrycount, kRightBlock);
     }
     return false;
 }

@@ -1,46 +1,39 @@
-#include "frame/conversions.h"
+#include "frame/form_state.h"
 #include "frame/mainscreen.h"
 #include "platform/message_box.h"
-#include "scale/scale_fields.h"
+#include "scale/bands.h"
 
-// The 24 fields of the scale, and the Default button.
+namespace {
 
-std::array<ScaleField, kScaleFieldCount> const kScaleFields = {{
-#define FIELD(field, text, check) {&mainscreen::field, text},
-#include "scale/scale_fields.def"
-#undef FIELD
-}};
+constexpr auto kDefaults = std::to_array<int>({
+#define SCALE_FIELD(name, defaultValue) defaultValue,
+#include "scale/bands.def"
+});
 
-ScaleNumbers ReadScale(class mainscreen& window)
+/// Whether the repair would find nothing to change in the default scale, and a save nothing to refuse.
+constexpr bool IsDefaultSound()
 {
-    ScaleNumbers numbers{};
-    for (std::size_t i = 0; i < kScaleFieldCount; ++i) {
-        numbers[i] = Val((window.*kScaleFields[i].field)().Text());
+    for (std::size_t place = 1; place < kDefaults.size(); ++place) {
+        int const step = kDefaults[place - 1] - kDefaults[place];
+        if (IsMaximum(place) ? step != 1 : step < 0) {
+            return false;
+        }
     }
-    return numbers;
+    return kDefaults.front() == 100 && kDefaults.back() >= 0;
 }
 
-void WriteDefaultScale(class mainscreen& window)
-{
-    for (ScaleField const& bound : kScaleFields) {
-        (window.*bound.field)().Text(bound.defaultText);
-    }
-}
+static_assert(IsDefaultSound(), "the default scale has a gap, an overlap or a band upside down");
 
-void ForceTopOfScale(class mainscreen& window)
-{
-    if (Val(window.aplusmax().Text()) != 100.0) {
-        window.aplusmax().Text("100");
-    }
-}
+} // namespace
 
 void mainscreen::PushButton3_Action()
 {
-    if (ToInteger(CDbl(numstudents().Text())) != 0) {
+    if (EntryCount(*this) != 0) {
         MsgBox(
             "Changing the grading scale to the Default cannot happen until you have reset the scores already "
             "entered.");
         return;
     }
-    WriteDefaultScale(*this);
+#define SCALE_FIELD(name, defaultValue) name().Text(#defaultValue);
+#include "scale/bands.def"
 }

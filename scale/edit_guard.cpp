@@ -1,47 +1,55 @@
 #include "frame/conversions.h"
+#include "frame/form_state.h"
 #include "frame/mainscreen.h"
 #include "platform/message_box.h"
-#include "session/clear.h"
+#include "scale/bands.h"
+#include "session/reset.h"
 
+#include <cassert>
 #include <string>
 
-// The guard keeps the scale from changing under entered data: it asks at every key, and puts the text back
-// that the field had when it gained the focus. The minimums besides check the boundary above their band.
+// The guard keeps the scale from changing while there are entries: every key in a scale field asks first, and
+// an edit that follows a No is taken back to the text that the field had when it gained the focus. Besides,
+// the focus on a minimum checks the boundary above its band, which the teacher has just passed.
 
 namespace {
 
-Integer EntryCount(class mainscreen& window)
+/// Makes a boundary that is not exactly one wide whole: its minimum is rounded, its maximum is one below.
+void CheckBoundaryAbove(class mainscreen& window, std::size_t band)
 {
-    return ToInteger(CDbl(window.numstudents().Text()));
+    assert(band > 0 && band < kBands.size());
+    Band const& higher = kBands[band - 1];
+    Band const& lower = kBands[band];
+    TextField& minimumField = (window.*higher.minimum)();
+    TextField& maximumField = (window.*lower.maximum)();
+
+    Double const minimum = CDbl(minimumField.Text());
+    if (minimum - CDbl(maximumField.Text()) == 1.0) {
+        return;
+    }
+    minimumField.Text(Str(Round(minimum)));
+    maximumField.Text(Str(Round(minimum) - 1.0));
+    MsgBox("The difference between the minimum for " + std::string(higher.inNotice) +
+           " and the maximum for " + std::string(lower.inNotice) + " must be equal to one.");
 }
 
-void StoreText(class mainscreen& window, TextField const& sender)
+void HandleFocus(class mainscreen& window, TextField const& sender, std::size_t place)
 {
+    if (!IsMaximum(place) && place != bound::aplusmin) {
+        CheckBoundaryAbove(window, place / 2);
+    }
     if (EntryCount(window) >= 1) {
         window.fileresetfield().Text(sender.Text());
     }
 }
 
-void RestoreText(class mainscreen& window, TextField& sender)
+void HandleChange(class mainscreen& window, TextField& sender)
 {
     Integer const stored = ToInteger(CDbl(window.fileresetfield().Text()));
     if (EntryCount(window) >= 1 && stored > 0) {
         sender.Text(window.fileresetfield().Text());
     }
     window.fileresetfield().Text("");
-}
-
-/// A boundary that is off comes out in whole numbers, with or without entries.
-void CheckBoundary(TextField& upper, TextField& lower, std::string const& above, std::string const& below)
-{
-    Double const minimum = CDbl(upper.Text());
-    Double const maximum = CDbl(lower.Text());
-    if (minimum - maximum > 1.0 || 1.0 > minimum - maximum) {
-        upper.Text(Str(Round(minimum)));
-        lower.Text(Str(Round(minimum) - 1.0));
-        MsgBox("The difference between the minimum for " + above + " and the maximum for " + below +
-               " must be equal to one.");
-    }
 }
 
 } // namespace
@@ -60,25 +68,20 @@ void mainscreen::shouldreset()
     }
 }
 
-// The handlers of the scale fields: amin_KeyDown, amin_GotFocus, amin_TextChange and so on for all 24. A key
-// always goes on to its field.
-#define NO_CHECK
-#define BOUNDARY(upper, lower, above, below) CheckBoundary(upper(), lower(), above, below);
-#define FIELD(field, text, check)                                                                            \
-    bool mainscreen::field##_KeyDown(TextField& /*sender*/, std::string const& /*key*/)                      \
+// The handlers of the scale fields: amin_KeyDown, amin_GotFocus, amin_TextChange and so on. A key always goes
+// on to its field: after a Yes it is meant, and after a No the change that it makes is taken back.
+#define SCALE_FIELD(name, defaultValue)                                                                      \
+    bool mainscreen::name##_KeyDown(TextField& /*sender*/, std::string const& /*key*/)                       \
     {                                                                                                        \
         shouldreset();                                                                                       \
         return false;                                                                                        \
     }                                                                                                        \
-    void mainscreen::field##_GotFocus(TextField& sender)                                                     \
+    void mainscreen::name##_GotFocus(TextField& sender)                                                      \
     {                                                                                                        \
-        check StoreText(*this, sender);                                                                      \
+        HandleFocus(*this, sender, bound::name);                                                             \
     }                                                                                                        \
-    void mainscreen::field##_TextChange(TextField& sender)                                                   \
+    void mainscreen::name##_TextChange(TextField& sender)                                                    \
     {                                                                                                        \
-        RestoreText(*this, sender);                                                                          \
+        HandleChange(*this, sender);                                                                         \
     }
-#include "scale/scale_fields.def"
-#undef FIELD
-#undef BOUNDARY
-#undef NO_CHECK
+#include "scale/bands.def"

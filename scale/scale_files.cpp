@@ -1,23 +1,25 @@
 #include "frame/conversions.h"
+#include "frame/file_choice.h"
 #include "frame/file_notices.h"
+#include "frame/form_state.h"
 #include "frame/mainscreen.h"
-#include "platform/file_dialogs.h"
 #include "platform/files.h"
 #include "platform/message_box.h"
-#include "scale/scale_fields.h"
+#include "scale/bands.h"
 
 #include <array>
 #include <optional>
 
-// A scale file holds the texts of the 24 fields, one to a line, in their order and as they stand. One such
-// file, the Preferences, is the teacher's standing scale.
+// A scale file holds the texts of the scale fields as they are, one to a line, in the order of the scale. One
+// such file, the Preferences, is the teacher's standing scale.
 
 namespace {
 
 constexpr char const* kPreferences = "Preferences";
 
-/// Reads the 24 lines of a scale file, and only then sets the fields. Gives the fault; after one no field is
-/// set.
+static_assert(bound::kCount == 24, "scale files that teachers already have would no longer fit");
+
+/// Sets the fields once all lines have been read. Returns the fault; after one no field has changed.
 std::string ReadScaleFile(class mainscreen& window, FolderItem const& item)
 {
     std::string fault;
@@ -25,7 +27,7 @@ std::string ReadScaleFile(class mainscreen& window, FolderItem const& item)
     if (stream == nullptr) {
         return fault;
     }
-    std::array<std::string, kScaleFieldCount> lines;
+    std::array<std::string, bound::kCount> lines;
     for (std::string& line : lines) {
         line = stream->ReadLine();
     }
@@ -33,8 +35,8 @@ std::string ReadScaleFile(class mainscreen& window, FolderItem const& item)
     if (!stream->Fault().empty()) {
         return stream->Fault();
     }
-    for (std::size_t i = 0; i < kScaleFieldCount; ++i) {
-        (window.*kScaleFields[i].field)().Text(lines[i]);
+    for (std::size_t place = 0; place < lines.size(); ++place) {
+        ScaleField(window, place).Text(lines[place]);
     }
     return "";
 }
@@ -42,21 +44,21 @@ std::string ReadScaleFile(class mainscreen& window, FolderItem const& item)
 void WriteScaleFile(class mainscreen& window, FolderItem const& item)
 {
     TextOutputStream stream = item.CreateTextFile();
-    for (ScaleField const& bound : kScaleFields) {
-        stream.WriteLine((window.*bound.field)().Text());
+    for (std::size_t place = 0; place < bound::kCount; ++place) {
+        stream.WriteLine(ScaleField(window, place).Text());
     }
-    TellUnlessSaved(item, stream.Close());
+    ReportUnlessSaved(item, stream.Close());
 }
 
-/// What both save buttons do first: they repair the scale and round its lowest minimum, also when the save is
-/// then refused. True if the scale may be saved.
-bool PassesGate(class mainscreen& window)
+/// Repairs the scale and rounds its lowest minimum, also if the save is then refused. A save is refused when
+/// the scale ends below zero, and once after a repair, so that the teacher looks at the changes first.
+bool MaySave(class mainscreen& window)
 {
     window.gradingscaletest();
-    bool const wasRepaired = ToInteger(CDbl(window.foundaproblem().Text())) == 1;
+    bool const wasRepaired = IsSet(window.foundaproblem());
     Double const lowest = Round(CDbl(window.dminusmin().Text()));
     window.dminusmin().Text(Str(lowest));
-    if (0.0 > lowest) {
+    if (lowest < 0.0) {
         MsgBox("In order to save this grading scale, the minimum for a D- must be greater than or equal to "
                "zero.");
         return false;
@@ -69,7 +71,7 @@ bool PassesGate(class mainscreen& window)
 void mainscreen::getprefs()
 {
     if (std::optional<FolderItem> const preferences = GetFolderItem(kPreferences, 0)) {
-        static_cast<void>(ReadScaleFile(*this, *preferences)); // without the file the scale stays as it is
+        static_cast<void>(ReadScaleFile(*this, *preferences)); // a first start has no such file
     }
 }
 
@@ -82,11 +84,11 @@ void mainscreen::Event_Open()
 
 void mainscreen::PushButton4_Action()
 {
-    if (PassesGate(*this)) {
+    if (MaySave(*this)) {
         if (std::optional<FolderItem> const preferences = GetFolderItem(kPreferences, 0)) {
             WriteScaleFile(*this, *preferences);
         } else {
-            TellUnlessSaved(FolderItem(kPreferences), "there is no folder for the settings of programs");
+            ReportUnlessSaved(FolderItem(kPreferences), "there is no folder for the settings of programs");
         }
     }
     foundaproblem().Text("");
@@ -94,13 +96,8 @@ void mainscreen::PushButton4_Action()
 
 void mainscreen::PushButton2_Action()
 {
-    if (PassesGate(*this)) {
-        SaveAsDialog dialog;
-        dialog.InitialDirectory = Volume(0).Child("Documents", true);
-        dialog.PromptText = "Enter a filename";
-        dialog.SuggestedFileName = "AlternativeGradingScale";
-        dialog.Title = "Save your file";
-        if (std::optional<FolderItem> const item = dialog.ShowModal()) {
+    if (MaySave(*this)) {
+        if (std::optional<FolderItem> const item = ChooseFileToSave("AlternativeGradingScale")) {
             WriteScaleFile(*this, *item);
         }
     }
@@ -109,23 +106,20 @@ void mainscreen::PushButton2_Action()
 
 bool mainscreen::_FileOpen_Action()
 {
-    if (ToInteger(CDbl(numstudents().Text())) != 0) {
+    if (EntryCount(*this) != 0) {
         MsgBox("In order to change the current grading scale, you must first reset the data that has already "
                "been entered.");
         return false;
     }
-    OpenDialog dialog;
-    dialog.InitialDirectory = Volume(0).Child("Documents", true);
-    dialog.Title = "Select a Grading Scale";
-    std::optional<FolderItem> const item = dialog.ShowModal();
+    std::optional<FolderItem> const item = ChooseFileToOpen("Select a Grading Scale");
     if (!item) {
         return false;
     }
     std::string const fault = ReadScaleFile(*this, *item);
-    if (!fault.empty()) {
-        TellUnopened(*item, fault);
-        return false;
+    if (fault.empty()) {
+        gradingscaletest();
+    } else {
+        ReportNotOpened(*item, fault);
     }
-    gradingscaletest();
     return false;
 }

@@ -1,41 +1,37 @@
 #include "frame/conversions.h"
 #include "frame/mainscreen.h"
 #include "platform/message_box.h"
-#include "scale/scale_fields.h"
+#include "scale/bands.h"
 
-// The repair makes the scale sound from the top down: what stands higher is trusted, what stands lower moves.
+// The repair makes the scale sound from the top down: higher bounds are trusted, lower ones move.
 
 namespace {
 
-constexpr Double kTop = 100.0;
-constexpr Double kHighestMinimumBelowTop = 99.0;
+constexpr Double kTopMinimum = 99.0; // where a minimum above the top goes
 
-/// Carries out the 24 tests in the order of the fields. A maximum follows the minimum above it; a minimum
-/// above its own maximum goes to one below it. Gives whether anything was repaired.
+/// Whether a bound does not fit the one above it: a maximum must be exactly one below the minimum of the
+/// higher band, a minimum must not be above its own maximum.
+bool IsWrong(ScaleNumbers const& numbers, std::size_t place)
+{
+    Double const above = numbers[place - 1];
+    return IsMaximum(place) ? above - numbers[place] != 1.0 : numbers[place] > above;
+}
+
+/// Moves each wrong bound below the one above it, in the field and in the numbers. Returns whether any was
+/// changed.
 bool Repair(class mainscreen& window, ScaleNumbers& numbers)
 {
-    bool repaired = false;
-    auto const set = [&](std::size_t i, Double number) {
-        numbers[i] = number;
-        (window.*kScaleFields[i].field)().Text(Str(number));
-        repaired = true;
-    };
-    // The working number of the top stays as it was read: the next test compares with that.
-    if (numbers[0] < kTop || numbers[0] > kTop) {
-        window.aplusmax().Text("100");
-        repaired = true;
-    }
-    if (numbers[1] > numbers[0]) {
-        set(1, kHighestMinimumBelowTop);
-    }
-    for (std::size_t i = 2; i < kScaleFieldCount; ++i) {
-        bool const isMaximum = i % 2 == 0;
-        bool const isWrong = isMaximum ? numbers[i - 1] - numbers[i] != 1.0 : numbers[i] > numbers[i - 1];
-        if (isWrong) {
-            set(i, numbers[i - 1] - 1.0);
+    // aplusmin is compared with the maximum that was read, not with the 100 that replaces it.
+    bool isRepaired = ForceTopOfScale(window);
+    for (std::size_t place = 1; place < numbers.size(); ++place) {
+        if (IsWrong(numbers, place)) {
+            bool const isTopBand = place == bound::aplusmin;
+            numbers[place] = isTopBand ? kTopMinimum : numbers[place - 1] - 1.0;
+            ScaleField(window, place).Text(Str(numbers[place]));
+            isRepaired = true;
         }
     }
-    return repaired;
+    return isRepaired;
 }
 
 } // namespace
@@ -43,14 +39,13 @@ bool Repair(class mainscreen& window, ScaleNumbers& numbers)
 void mainscreen::gradingscaletest()
 {
     ScaleNumbers numbers = ReadScale(*this);
-    bool const repaired = Repair(*this, numbers);
-    if (repaired) {
-        MsgBox("An attempt was made to fix the grading scale. You should check these modifications before "
-               "saving the settings.");
+    if (!Repair(*this, numbers)) {
+        return;
     }
+    MsgBox("An attempt was made to fix the grading scale. You should check these modifications before "
+           "saving the settings.");
     // A scale that ends below zero is not marked: a save refuses it with a notice of its own.
-    bool const endsBelowZero = 0.0 > numbers.back();
-    if (repaired && !endsBelowZero) {
-        foundaproblem().Text(Str(Integer{1}));
+    if (numbers.back() >= 0.0) {
+        foundaproblem().Text("1");
     }
 }

@@ -1,58 +1,51 @@
+#include "session/letter_grade.h"
+
 #include "frame/conversions.h"
 #include "frame/mainscreen.h"
-#include "scale/scale_fields.h"
-#include "session/letters.h"
+#include "scale/bands.h"
 
-#include <algorithm>
+#include <optional>
 
-std::array<Letter, 13> const kLetters = std::to_array<Letter>({
-    {"A+", &mainscreen::agrade},
-    {"A",  &mainscreen::agrade},
-    {"A-", &mainscreen::agrade},
-    {"B+", &mainscreen::bgrade},
-    {"B",  &mainscreen::bgrade},
-    {"B-", &mainscreen::bgrade},
-    {"C+", &mainscreen::cgrade},
-    {"C",  &mainscreen::cgrade},
-    {"C-", &mainscreen::cgrade},
-    {"D+", &mainscreen::dgrade},
-    {"D",  &mainscreen::dgrade},
-    {"D-", &mainscreen::dgrade},
-    {"F",  &mainscreen::fgrade},
-});
+namespace {
 
-TextField* BucketOf(class mainscreen& window, std::string_view letter)
+constexpr std::string_view kFailing = "F"; // everything below the lowest band
+
+/// The letter of the first band that holds the percentage; none if it is in a gap between two bands.
+std::optional<std::string_view> LetterOf(Double percentage, ScaleNumbers const& numbers)
 {
-    auto const found = std::find_if(kLetters.begin(), kLetters.end(),
-                                    [&](Letter const& known) { return known.text == letter; });
-    return found == kLetters.end() ? nullptr : &(window.*found->bucket)();
-}
-
-/// The first test that holds gives the letter. A percentage in a gap between two bands keeps the letter of
-/// the entry before it.
-void mainscreen::percenttest()
-{
-    Double const read = CDbl(percentage().Text());
-    ScaleNumbers const bounds = ReadScale(*this);
-    Double const rounded = Round(read);
-
-    std::size_t const bands = kScaleFieldCount / 2;
-    for (std::size_t band = 0; band < bands; ++band) {
-        bool const isTop = band == 0; // the best letter has no upper bound
-        bool const isBelowMaximum = isTop || bounds[2 * band] >= rounded;
-        if (isBelowMaximum && rounded >= bounds[2 * band + 1]) {
-            lettergrade().Text(kLetters[band].text);
-            return;
+    for (std::size_t band = 0; band < kBands.size(); ++band) {
+        bool const isTop = band == 0; // extra points can bring an entry above 100 percent
+        if ((isTop || numbers[2 * band] >= percentage) && percentage >= numbers[2 * band + 1]) {
+            return kBands[band].letter;
         }
     }
-    if (bounds.back() > rounded) {
-        lettergrade().Text(kLetters.back().text);
+    return numbers.back() > percentage ? std::optional(kFailing) : std::nullopt;
+}
+
+} // namespace
+
+TextField* TallyOf(class mainscreen& window, std::string_view letter)
+{
+    for (Band const& band : kBands) {
+        if (band.letter == letter) {
+            return &(window.*band.tally)();
+        }
+    }
+    return letter == kFailing ? &window.fgrade() : nullptr;
+}
+
+/// A percentage in a gap between two bands keeps the letter of the entry before it.
+void mainscreen::percenttest()
+{
+    Double const rounded = Round(CDbl(percentage().Text()));
+    if (std::optional<std::string_view> const letter = LetterOf(rounded, ReadScale(*this))) {
+        lettergrade().Text(*letter);
     }
 }
 
 void mainscreen::results()
 {
-    if (TextField* const bucket = BucketOf(*this, lettergrade().Text())) {
-        bucket->Text(Str(Sum(ToInteger(Val(bucket->Text())), 1)));
+    if (TextField* const tally = TallyOf(*this, lettergrade().Text())) {
+        tally->Text(Str(Sum(ToInteger(Val(tally->Text())), 1)));
     }
 }

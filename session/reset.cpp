@@ -1,28 +1,19 @@
-#include "frame/conversions.h"
+#include "session/reset.h"
+
+#include "frame/form_state.h"
 #include "frame/mainscreen.h"
 #include "platform/message_box.h"
-#include "session/clear.h"
 #include "session/history.h"
 
 #include <initializer_list>
 
 namespace {
 
-using Field = TextField& (mainscreen::*)();
-
-void Empty(class mainscreen& window, std::initializer_list<Field> fields)
+void Empty(class mainscreen& window, std::initializer_list<FieldAccessor> fields)
 {
-    for (Field const field : fields) {
+    for (FieldAccessor const field : fields) {
         (window.*field)().Text("");
     }
-}
-
-/// What both orders of clearing end with.
-void EmptyTallies(class mainscreen& window)
-{
-    Empty(window, {&mainscreen::agrade, &mainscreen::bgrade, &mainscreen::cgrade, &mainscreen::dgrade,
-                   &mainscreen::fgrade, &mainscreen::EditField1});
-    DeleteHistory(window);
 }
 
 void EmptyLastEntry(class mainscreen& window)
@@ -31,21 +22,29 @@ void EmptyLastEntry(class mainscreen& window)
                    &mainscreen::lettergrade, &mainscreen::average});
 }
 
+void EmptyTalliesAndHistory(class mainscreen& window)
+{
+    Empty(window, {&mainscreen::agrade, &mainscreen::bgrade, &mainscreen::cgrade, &mainscreen::dgrade,
+                   &mainscreen::fgrade, &mainscreen::EditField1});
+    DeleteHistory(window);
+}
+
 } // namespace
 
 void ClearResults(class mainscreen& window)
 {
     EmptyLastEntry(window);
     Empty(window, {&mainscreen::numstudents});
-    EmptyTallies(window);
+    EmptyTalliesAndHistory(window);
 }
 
-/// The button forgets the points of the last press as well, and does so first of all.
+/// Unlike the menu command the button also forgets the points of the last press, and it starts with the count:
+/// from then on nothing protects the number of points.
 void mainscreen::BevelButton1_Action()
 {
     Empty(*this, {&mainscreen::numstudents, &mainscreen::pointstemp, &mainscreen::total});
     EmptyLastEntry(*this);
-    EmptyTallies(*this);
+    EmptyTalliesAndHistory(*this);
 }
 
 bool mainscreen::_FileReset_Action()
@@ -55,10 +54,11 @@ bool mainscreen::_FileReset_Action()
     return false;
 }
 
-/// The points must not change under entered data.
+/// All entries of a session are scored against the same number of points, so it goes back to what the last
+/// press of Grade found.
 void mainscreen::total_TextChange(TextField& /*sender*/)
 {
-    if (!(CDbl(numstudents().Text()) >= 1.0)) {
+    if (EntryCount(*this) < 1) {
         return;
     }
     MsgBox("To change the number of points, you must first reset the current data.");

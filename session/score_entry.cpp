@@ -1,160 +1,155 @@
 #include "frame/conversions.h"
+#include "frame/form_state.h"
 #include "frame/mainscreen.h"
 #include "platform/message_box.h"
-#include "scale/scale_fields.h"
+#include "scale/bands.h"
 #include "session/history.h"
+
+#include <algorithm>
+#include <functional>
+#include <optional>
 
 // A press of Grade turns the typed score into one entry.
 
 namespace {
 
-/// What the question about the scale has decided; it lives for one press.
-enum class GradeState : Integer { Undecided = 0, NoPoints = 1, Graded = 2, Declined = 3 };
-
-/// A score as one of the two input modes has read it.
 struct Score {
-    Double numcorrect = 0.0;
     Double nummissed = 0.0;
+    Double percent = 0.0;
 };
 
-void TellPositivePoints()
+/// Whether no bound is above the one before it. Gaps between bands are left to the repair.
+bool IsInOrder(ScaleNumbers const& numbers)
+{
+    return std::is_sorted(numbers.begin(), numbers.end(), std::greater<>());
+}
+
+bool AskToRepair()
+{
+    return MsgBox("Gradeloom has found problems with the grading scale which must be fixed to continue. "
+                  "Would you like Gradeloom to fix them for you?",
+                  kYesNoQuestion, "") == kYes;
+}
+
+void ReportNoPoints()
 {
     MsgBox("You must enter a positive value for the Number of Points.");
 }
 
-bool HasPositivePoints(class mainscreen& window)
+/// Returns whether the number of points is positive; if not, shows a notice.
+bool CheckPoints(class mainscreen& window)
 {
-    return CDbl(window.total().Text()) > 0.0;
+    bool const isPositive = CDbl(window.total().Text()) > 0.0;
+    if (!isPositive) {
+        ReportNoPoints();
+    }
+    return isPositive;
 }
 
-/// Refuses a number missed above the points, whichever mode it came from.
-bool IsTooManyMissed(class mainscreen& window, Integer pointstotal)
+/// Repairs the scale and checks the points; returns whether the press goes on. A repair that the user agreed to
+/// runs even without points, one that nobody was asked about does not.
+bool PrepareScale(class mainscreen& window)
 {
-    if (Val(window.missed().Text()) > static_cast<Double>(pointstotal)) {
-        MsgBox("The number missed should not exceed the total number of points.");
-        window.missed().Text("");
+    bool const wasInOrder = IsInOrder(ReadScale(window));
+    ForceTopOfScale(window);
+    bool const mayRepair = wasInOrder ? CheckPoints(window) : AskToRepair();
+    if (!mayRepair) {
+        return false;
+    }
+    window.gradingscaletest();
+    return wasInOrder || CheckPoints(window);
+}
+
+/// Returns whether no more points are missed than there are; if not, shows a notice and empties the field.
+bool CheckMissed(class mainscreen& window, Integer pointstotal)
+{
+    if (Val(window.missed().Text()) <= static_cast<Double>(pointstotal)) {
         return true;
     }
+    MsgBox("The number missed should not exceed the total number of points.");
+    window.missed().Text("");
     return false;
 }
 
-Double Percent(Score const& score, Integer pointstotal)
+Double Percent(Double numcorrect, Integer pointstotal)
 {
-    return score.numcorrect / static_cast<Double>(pointstotal) * 100.0;
+    return numcorrect / static_cast<Double>(pointstotal) * 100.0;
 }
 
-/// Reads the number correct and shows the score. False if the score is refused.
-bool ReadCorrect(class mainscreen& window, Integer pointstotal, Score& score)
+/// Reads the number correct and shows the score; nothing if it is refused.
+std::optional<Score> ReadCorrect(class mainscreen& window, Integer pointstotal)
 {
-    score.numcorrect = Val(window.correct().Text());
-    score.nummissed = static_cast<Double>(pointstotal) - score.numcorrect;
-    window.missed().Text(Str(score.nummissed));
-    if (IsTooManyMissed(window, pointstotal)) {
-        return false;
+    Double const numcorrect = Val(window.correct().Text());
+    Double const nummissed = static_cast<Double>(pointstotal) - numcorrect;
+    window.missed().Text(Str(nummissed));
+    if (!CheckMissed(window, pointstotal)) {
+        return std::nullopt;
     }
-    window.lastmissed().Text(Str(score.nummissed));
-    window.percentage().Text(Format(Percent(score, pointstotal), "#.##"));
+    Double const percent = Percent(numcorrect, pointstotal);
+    window.lastmissed().Text(Str(nummissed));
+    window.percentage().Text(Format(percent, "#.##"));
     window.correct().Text("");
-    return true;
+    return Score{nummissed, percent};
 }
 
-/// Reads the number missed and shows the score. False if the score is refused.
-bool ReadMissed(class mainscreen& window, Integer pointstotal, Score& score)
+/// Reads the number missed and shows the score; nothing if it is refused.
+std::optional<Score> ReadMissed(class mainscreen& window, Integer pointstotal)
 {
-    if (IsTooManyMissed(window, pointstotal)) {
-        return false;
+    if (!CheckMissed(window, pointstotal)) {
+        return std::nullopt;
     }
-    score.nummissed = Val(window.missed().Text());
-    score.numcorrect = static_cast<Double>(pointstotal) - score.nummissed;
-    window.lastmissed().Text(Str(score.nummissed));
-    window.correct().Text(Str(score.numcorrect));
-    window.percentage().Text(Str(Percent(score, pointstotal)));
-    return true;
+    Double const nummissed = Val(window.missed().Text());
+    Double const numcorrect = static_cast<Double>(pointstotal) - nummissed;
+    Double const percent = Percent(numcorrect, pointstotal);
+    window.lastmissed().Text(Str(nummissed));
+    window.correct().Text(Str(numcorrect));
+    window.percentage().Text(Str(percent));
+    return Score{nummissed, percent};
 }
 
-/// Makes the entry, or refuses the score.
-void MakeEntry(class mainscreen& window)
+/// Counts the score and appends it to the history.
+void RecordScore(class mainscreen& window, Score const& score, bool isByCorrect)
 {
-    Integer runningsum = ToInteger(Val(window.average().Text()));
-    Integer entrycount = ToInteger(Val(window.numstudents().Text()));
-    Integer const pointstotal = ToInteger(Val(window.total().Text()));
-    if (pointstotal == 0) { // less than one whole point can't be divided by
-        TellPositivePoints();
-        return;
-    }
-    bool const byCorrect = window.checkcorrect().Value();
-    Score score;
-    if (!(byCorrect ? ReadCorrect(window, pointstotal, score) : ReadMissed(window, pointstotal, score))) {
-        return;
-    }
-    Double const percent = Percent(score, pointstotal);
-
-    window.percenttest();
-    window.results();
-    entrycount = Sum(entrycount, 1);
-    window.numstudents().Text(Str(entrycount));
-    runningsum = ToInteger(static_cast<Double>(runningsum) + percent);
+    Integer const entrycount = Sum(ToInteger(Val(window.numstudents().Text())), 1);
+    Double const earliersum = static_cast<Double>(ToInteger(Val(window.average().Text())));
+    Integer const runningsum = ToInteger(earliersum + score.percent);
     Integer const classaverage = ToInteger(static_cast<Double>(runningsum) / static_cast<Double>(entrycount));
+    window.numstudents().Text(Str(entrycount));
     window.average().Text(Str(runningsum));
     window.EditField1().Text(Str(classaverage));
-    if (!byCorrect) {
+    if (!isByCorrect) {
         window.missed().Text("");
     }
-    AppendEntry(window, entrycount, percent, score.nummissed, classaverage);
+    AppendEntry(window, entrycount, score.percent, score.nummissed, classaverage);
 }
 
-/// A bound above the one before it, as the numbers were read, is a violation; a gap is none.
-bool IsInOrder(ScaleNumbers const& numbers)
+/// Makes one entry of what was typed, unless it is refused.
+void MakeEntry(class mainscreen& window)
 {
-    for (std::size_t i = 1; i < numbers.size(); ++i) {
-        if (numbers[i] > numbers[i - 1]) {
-            return false;
-        }
+    Integer const pointstotal = ToInteger(Val(window.total().Text()));
+    if (pointstotal == 0) { // a number of points above 0 and below 1
+        ReportNoPoints();
+        return;
     }
-    return true;
-}
-
-/// Offers to fix a scale that is out of order. After a Yes the scale is repaired before the points are
-/// tested.
-GradeState CheckScale(class mainscreen& window)
-{
-    ScaleNumbers const numbers = ReadScale(window);
-    ForceTopOfScale(window);
-    if (IsInOrder(numbers)) {
-        return GradeState::Undecided;
+    bool const isByCorrect = window.checkcorrect().Value();
+    std::optional<Score> const score =
+        isByCorrect ? ReadCorrect(window, pointstotal) : ReadMissed(window, pointstotal);
+    if (score) {
+        window.percenttest();
+        window.results();
+        RecordScore(window, *score, isByCorrect);
     }
-    int const answer =
-        MsgBox("Gradeloom has found problems with the grading scale which must be fixed to continue. "
-               "Would you like Gradeloom to fix them for you?",
-               kYesNoQuestion, "");
-    if (answer != kYes) {
-        return GradeState::Declined;
-    }
-    window.gradingscaletest();
-    if (!HasPositivePoints(window)) {
-        TellPositivePoints();
-        return GradeState::NoPoints;
-    }
-    MakeEntry(window);
-    return GradeState::Graded;
 }
 
 } // namespace
 
 void mainscreen::PushButton1_Action()
 {
-    // These two stamps stay, also when the press is refused.
+    // Undo and a change of the points go by the last press, even by one that is refused.
     pointstemp().Text(total().Text());
-    bool const isFirst = ToInteger(CDbl(numstudents().Text())) < 1;
-    problem().Text(isFirst ? "1" : "");
+    problem().Text(EntryCount(*this) < 1 ? "1" : "");
 
-    if (CheckScale(*this) != GradeState::Undecided) {
-        return;
+    if (PrepareScale(*this)) {
+        MakeEntry(*this);
     }
-    if (!HasPositivePoints(*this)) {
-        TellPositivePoints();
-        return;
-    }
-    gradingscaletest();
-    MakeEntry(*this);
 }

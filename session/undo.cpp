@@ -1,13 +1,14 @@
 #include "frame/conversions.h"
+#include "frame/form_state.h"
 #include "frame/mainscreen.h"
-#include "session/clear.h"
 #include "session/history.h"
-#include "session/letters.h"
+#include "session/letter_grade.h"
+#include "session/reset.h"
 
 namespace {
 
-/// Puts the fields back to the record of this row, which stays as the last one.
-void RestoreRecord(class mainscreen& window, Integer row)
+/// Sets the fields to what they showed after the entry in this row of the history.
+void RestoreEntry(class mainscreen& window, Integer row)
 {
     window.numstudents().Text(Str(row + 1));
     window.average().Text(Str(CDbl(window.ListBox5().List(row))));
@@ -17,32 +18,33 @@ void RestoreRecord(class mainscreen& window, Integer row)
     window.lettergrade().Text(window.ListBox4().List(row));
 }
 
-/// Takes the last entry back, of at least two.
+/// Removes the last entry; there must be another one before it.
 void StepBack(class mainscreen& window, Integer entrycount)
 {
-    if (TextField* const bucket = BucketOf(window, window.ListBox4().List(entrycount - 1))) {
-        bucket->Text(Str(Sum(ToInteger(CDbl(bucket->Text())), -1)));
+    Integer const last = entrycount - 1;
+    if (TextField* const tally = TallyOf(window, window.ListBox4().List(last))) {
+        tally->Text(Str(Sum(ToInteger(CDbl(tally->Text())), -1)));
     }
-    RestoreRecord(window, entrycount - 2);
-    RemoveEntry(window, entrycount - 1);
+    RestoreEntry(window, last - 1);
+    RemoveEntry(window, last);
 }
 
 } // namespace
 
-/// The first entry has no record before it: it goes by clearing all, and problem says whether this is the
-/// time.
+/// The first entry has no earlier state to go back to, so it goes by clearing everything. The flag problem
+/// says that this is due.
 bool mainscreen::_EditUndo_Action()
 {
-    Integer entrycount = ToInteger(CDbl(numstudents().Text()));
+    Integer entrycount = EntryCount(*this);
     if (entrycount > 1) {
         StepBack(*this, entrycount);
         --entrycount;
     }
-    if (ToInteger(CDbl(problem().Text())) == 1) {
+    if (IsSet(problem())) {
         ClearResults(*this);
     }
     if (entrycount == 1) {
-        problem().Text(Str(entrycount));
+        problem().Text("1");
     }
     return false;
 }

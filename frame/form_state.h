@@ -1,0 +1,12 @@
+#pragma once
+
+#include "frame/conversions.h"
+#include "frame/mainscreen.h"
+
+// What the main window's fields say about the session as a whole.
+
+/// The number of entries that numstudents shows, without a fraction; 0 while the field is empty.
+[[nodiscard]] Integer EntryCount(class mainscreen& window);
+
+/// Whether a hidden field that serves as a flag holds "1".
+[[nodiscard]] bool IsSet(TextField const& flag);
