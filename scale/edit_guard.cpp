@@ -48,6 +48,7 @@ void HandleChange(class mainscreen& window, TextField& sender)
     Integer const stored = ToInteger(CDbl(window.fileresetfield().Text()));
     if (EntryCount(window) >= 1 && stored > 0) {
         sender.Text(window.fileresetfield().Text());
+        window.EditUndo().IgnoreNextShortcut(); // what the key would undo has just been undone
     }
     window.fileresetfield().Text("");
 }

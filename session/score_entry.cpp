@@ -123,13 +123,13 @@ void RecordScore(class mainscreen& window, Score const& score, bool isByCorrect)
     AppendEntry(window, entrycount, score.percent, score.nummissed, classaverage);
 }
 
-/// Makes one entry of what was typed, unless it is refused.
-void MakeEntry(class mainscreen& window)
+/// Makes one entry of what was typed; false if it is refused.
+bool MakeEntry(class mainscreen& window)
 {
     Integer const pointstotal = ToInteger(Val(window.total().Text()));
     if (pointstotal == 0) { // a number of points above 0 and below 1
         ReportNoPoints();
-        return;
+        return false;
     }
     bool const isByCorrect = window.checkcorrect().Value();
     std::optional<Score> const score =
@@ -139,6 +139,7 @@ void MakeEntry(class mainscreen& window)
         window.results();
         RecordScore(window, *score, isByCorrect);
     }
+    return score.has_value();
 }
 
 } // namespace
@@ -149,7 +150,8 @@ void mainscreen::PushButton1_Action()
     pointstemp().Text(total().Text());
     problem().Text(EntryCount(*this) < 1 ? "1" : "");
 
-    if (PrepareScale(*this)) {
-        MakeEntry(*this);
+    bool const isEntered = PrepareScale(*this) && MakeEntry(*this);
+    if (!isEntered) {
+        EditUndo().IgnoreNextShortcut(); // there is nothing to undo of this press
     }
 }
