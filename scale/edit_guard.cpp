@@ -9,7 +9,7 @@
 #include <string>
 
 // The guard keeps the scale from changing while there are entries: every key in a scale field asks first, and
-// an edit that follows a No is taken back to the text that the field had when it gained the focus. Besides,
+// after a No the first change is taken back to the text that the field had when it gained the focus. Besides,
 // the focus on a minimum checks the boundary above its band, which the teacher has just passed.
 
 namespace {
@@ -70,7 +70,7 @@ void mainscreen::shouldreset()
 }
 
 // The handlers of the scale fields: amin_KeyDown, amin_GotFocus, amin_TextChange and so on. A key always goes
-// on to its field: after a Yes it is meant, and after a No the change that it makes is taken back.
+// on to its field: it is wanted after a Yes, and after a No its change is taken back.
 #define SCALE_FIELD(name, defaultValue)                                                                      \
     bool mainscreen::name##_KeyDown(TextField& /*sender*/, std::string const& /*key*/)                       \
     {                                                                                                        \
