@@ -1,12 +1,52 @@
 #include "frame/read_number.h"
 
+#include "platform/characters.h"
+
 #include <algorithm>
 #include <cassert>
 #include <limits>
 #include <locale>
+#include <optional>
 #include <sstream>
 
 namespace {
+
+/// The character that has this one's meaning in a number written in ASCII; "?" if it has none there.
+char ToAscii(char32_t character)
+{
+    constexpr char32_t kAsciiEnd = 0x80;
+    if (character < kAsciiEnd) {
+        return static_cast<char>(character);
+    }
+    if (std::optional<int> const digit = DigitValue(character)) {
+        return static_cast<char>('0' + *digit);
+    }
+    switch (character) {
+    case U'\u066B': // Arabic decimal separator
+    case U'\uFF0E': // full-width full stop
+        return '.';
+    case U'\u066C': // Arabic thousands separator
+    case U'\uFF0C': // full-width comma
+        return ',';
+    case U'\u2212': // minus sign
+    case U'\uFF0D': // full-width hyphen-minus
+        return '-';
+    case U'\uFF0B': // full-width plus sign
+        return '+';
+    default:
+        return IsBlank(character) ? ' ' : '?';
+    }
+}
+
+/// The text with the digits, signs and blanks of all scripts as those of ASCII.
+std::string ToAscii(std::string_view text)
+{
+    std::string ascii;
+    for (char32_t const character : Characters(text)) {
+        ascii += ToAscii(character);
+    }
+    return ascii;
+}
 
 bool IsDigit(char character)
 {
@@ -94,8 +134,10 @@ Double ValueOf(std::string const& digits, std::int64_t exponent)
 
 } // namespace
 
-Double ReadNumber(std::string_view text, bool withExponent)
+Double ReadNumber(std::string_view typed, bool withExponent)
 {
+    std::string const ascii = ToAscii(typed);
+    std::string_view text = ascii;
     text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
     bool const hasSign = !text.empty() && (text[0] == '+' || text[0] == '-');
     bool const isNegative = hasSign && text[0] == '-';

@@ -64,4 +64,5 @@ void mainscreen::total_TextChange(TextField& /*sender*/)
     MsgBox("To change the number of points, you must first reset the current data.");
     total().Text("");
     total().Text(pointstemp().Text());
+    EditUndo().IgnoreNextShortcut(); // what the key would undo has just been undone
 }
