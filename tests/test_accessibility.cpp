@@ -16,9 +16,9 @@ struct ProtectedField {
     char const* name;
     char const* text;
 } const kProtected[] = {
-    {"percentage", "90"},
+    {"percentage", "90" },
     {"average",    "180"},
-    {"problem",    ""  },
+    {"problem",    ""   },
 };
 
 } // namespace

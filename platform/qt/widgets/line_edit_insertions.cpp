@@ -139,8 +139,7 @@ void LineEdit::redirectEdit()
     QString const wanted = text();
     setTextQuietly(QString(lastText_));
     if (isEditable()) {
-        QMetaObject::invokeMethod(
-            this, [this, wanted] { takeEdit(wanted); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, [this, wanted] { takeEdit(wanted); }, Qt::QueuedConnection);
     }
 }
 

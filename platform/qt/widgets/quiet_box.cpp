@@ -23,6 +23,7 @@ QuietBox::QuietBox(QWidget* parent) : QMessageBox(parent), quiet_(this)
 {
     quiet_.setSingleShot(true);
     quiet_.setInterval(kQuietTime);
+    quiet_.setTimerType(Qt::PreciseTimer);
     qApp->installEventFilter(this);
 }
 
