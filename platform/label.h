@@ -7,6 +7,8 @@ class Label final : public Control {
 public:
     Label(QWidget* parent, std::string const& name);
 
+    /// Tells assistive programs that this is the label of that control.
+    void LabelFor(Control const& control);
     /// Lets the text run over several centred lines.
     void Multiline();
 

@@ -30,6 +30,8 @@ public:
     void ColumnCount(int count);
     /// Widths in pixels, separated by commas; columns without one share what is left.
     void ColumnWidths(std::string_view widths);
+    /// What assistive programs call the columns, separated by commas; nothing of it is shown.
+    void SpokenHeaders(std::string_view headers);
     /// 0: one row can be selected at a time, 1: several.
     void RowSelectionType(int type);
 

@@ -2,6 +2,7 @@
 
 #include "platform/qt/text.h"
 #include "platform/qt/widgets/fitted_font.h"
+#include "platform/qt/widgets/form_style.h"
 
 #include <QApplication>
 #include <QGroupBox>
@@ -9,6 +10,7 @@
 Control::Control(QWidget* widget, std::string const& name) : widget_(widget)
 {
     widget->setObjectName(ToQt(name));
+    InheritFormStyle(*widget);
 }
 
 Control::~Control() = default;

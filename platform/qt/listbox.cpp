@@ -96,6 +96,11 @@ void Listbox::ColumnWidths(std::string_view widths)
     View(*this).setColumnWidths(ToQt(widths));
 }
 
+void Listbox::SpokenHeaders(std::string_view headers)
+{
+    View(*this).rows().setHeaders(ToQt(headers).split(u','));
+}
+
 void Listbox::RowSelectionType(int type)
 {
     View(*this).setSelectionMode(type == 1 ? QAbstractItemView::ExtendedSelection

@@ -4,6 +4,7 @@
 #include "platform/qt/system/runtime_object.h"
 #include "platform/qt/text.h"
 #include "platform/qt/widgets/form_palette.h"
+#include "platform/qt/widgets/form_style.h"
 #include "platform/qt/widgets/top_level.h"
 
 #include <QCoreApplication>
@@ -58,6 +59,7 @@ void Window::Show()
 {
     if (!std::exchange(hasKeyboardOrder_, true)) {
         OrderKeyboard();
+        topLevel_->fitToScreen();
     }
     topLevel_->setWindowState(topLevel_->windowState() & ~Qt::WindowMinimized);
     topLevel_->show();
@@ -158,6 +160,7 @@ void _SetProperties(Window& window, WindowProperties const& properties)
     top.content().setFixedSize(properties.width, properties.height);
     if (properties.background) {
         Color const& color = *properties.background;
+        top.content().setStyle(&FormStyle());
         top.content().setAutoFillBackground(true);
         top.content().setPalette(FormPalette(QColor(color.red, color.green, color.blue)));
     }

@@ -24,6 +24,12 @@ QVariant ListModel::data(QModelIndex const& index, int role) const
     return role == Qt::TextAlignmentRole ? QVariant(static_cast<int>(found.alignment)) : QVariant();
 }
 
+QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    bool const isHeader = orientation == Qt::Horizontal && role == Qt::DisplayRole;
+    return isHeader ? QVariant(headers_.value(section)) : QVariant();
+}
+
 void ListModel::append(QString const& text)
 {
     int const row = rowCount();

@@ -17,11 +17,13 @@ public:
     [[nodiscard]] int rowCount(QModelIndex const& parent = {}) const override;
     [[nodiscard]] int columnCount(QModelIndex const& parent = {}) const override;
     [[nodiscard]] QVariant data(QModelIndex const& index, int role) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
     void append(QString const& text);
     void remove(int row);
     void clear();
     void setColumns(int count);
+    void setHeaders(QStringList const& headers) { headers_ = headers; }
     void setText(int row, int column, QString const& text);
     void setAlignment(int row, int column, Qt::Alignment alignment);
 
@@ -29,5 +31,6 @@ private:
     Cell* cell(int row, int column);
 
     std::vector<std::vector<Cell>> rows_;
+    QStringList headers_; ///< of the first columns
     int columns_ = 1;
 };

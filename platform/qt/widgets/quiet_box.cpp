@@ -33,6 +33,9 @@ void QuietBox::showEvent(QShowEvent* event)
 {
     quiet_.start();
     QMessageBox::showEvent(event);
+#ifndef Q_OS_WIN // where the toolkit itself sounds the bell
+    QApplication::beep();
+#endif
 }
 
 /// Sees the events of the whole application: while the box is open every key is meant for it.

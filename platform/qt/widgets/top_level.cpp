@@ -2,6 +2,7 @@
 
 #include "platform/qt/widgets/field_keys.h"
 #include "platform/qt/widgets/focus_order.h"
+#include "platform/qt/widgets/form_style.h"
 #include "platform/qt/widgets/held_keys.h"
 #include "platform/qt/widgets/line_edit.h"
 #include "platform/qt/widgets/menu_action.h"
@@ -12,7 +13,11 @@
 #include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
+#include <QStyle>
 
 namespace {
 
@@ -21,6 +26,24 @@ QPointer<TopLevel>& Front()
     static QPointer<TopLevel> front;
     return front;
 }
+
+/// Scrolls a window's content by wheel, by Page Up and Page Down where the focused control has no use for them,
+/// and with the focus. It is no stop of the Tab key.
+class ContentScroller final : public QScrollArea {
+public:
+    using QScrollArea::QScrollArea;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        bool const isPage = event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown;
+        if (isPage) {
+            QScrollArea::keyPressEvent(event);
+        } else {
+            event->ignore();
+        }
+    }
+};
 
 /// Opens a menu as a click on its title does, with its first item chosen.
 void OpenMenu(QMenuBar& bar, QAction& title)
@@ -36,15 +59,37 @@ void OpenMenu(QMenuBar& bar, QAction& title)
 
 } // namespace
 
-TopLevel::TopLevel() : content_(new QWidget(this))
+TopLevel::TopLevel() : content_(new QWidget(this)), focusFrame_(new QFocusFrame(content_))
 {
     setCentralWidget(content_);
+    focusFrame_->setStyle(&FormStyle());
     layout()->setSizeConstraint(QLayout::SetFixedSize);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
         if (now != nullptr) {
             noteFocus(now);
         }
     });
+}
+
+void TopLevel::fitToScreen()
+{
+    constexpr QSize kFrame(16, 48); // pixels that a title bar and its frame may take
+    int const menuHeight = menuBar()->sizeHint().height();
+    QSize const room = screen()->availableSize() - kFrame - QSize(0, menuHeight);
+    QSize const wanted = content_->size();
+    if (wanted.width() <= room.width() && wanted.height() <= room.height()) {
+        return;
+    }
+    scrollArea_ = new ContentScroller(this);
+    scrollArea_->setStyle(content_->style());
+    scrollArea_->setFrameShape(QFrame::NoFrame);
+    scrollArea_->setFocusPolicy(Qt::NoFocus);
+    scrollArea_->setPalette(content_->palette());
+    scrollArea_->setWidget(content_);
+    int const bar = scrollArea_->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    QSize const bars(wanted.height() > room.height() ? bar : 0, wanted.width() > room.width() ? bar : 0);
+    scrollArea_->setFixedSize((wanted + bars).boundedTo(room));
+    setCentralWidget(scrollArea_);
 }
 
 void TopLevel::noteFocus(QWidget* control)
@@ -56,6 +101,10 @@ void TopLevel::noteFocus(QWidget* control)
         left->leave();
     }
     focusedControl_ = control;
+    focusFrame_->setWidget(control);
+    if (scrollArea_ != nullptr) {
+        scrollArea_->ensureWidgetVisible(control);
+    }
     MenuAction::endIgnoring();
     if (auto* const field = dynamic_cast<LineEdit*>(control)) {
         FocusOrder::instance().add(field, field->gotFocus);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFocusFrame>
 #include <QMainWindow>
 #include <QPointer>
 #include <QPushButton>
@@ -7,6 +8,8 @@
 #include <functional>
 #include <map>
 #include <string>
+
+class QScrollArea;
 
 /// The QMainWindow behind a window: its menu bar and what the commands do there, its close button, its default
 /// button, and which of its controls has the keyboard focus.
@@ -22,6 +25,8 @@ public:
     QPointer<QPushButton> defaultButton;   ///< what Return and Enter press
 
     [[nodiscard]] QWidget& content() const { return *content_; }
+    /// Makes the content scroll if the screen has no room for all of it.
+    void fitToScreen();
     /// The control that has the window's keyboard focus, or had it when the window was last in front.
     [[nodiscard]] QWidget* focusedControl() const { return focusedControl_; }
     /// The window's focus is now here. The same control again is no news.
@@ -46,5 +51,7 @@ private:
     void bringMenuBarUpToDate();
 
     QWidget* content_;
+    QScrollArea* scrollArea_ = nullptr; ///< around the content, on a screen that is too small for it
+    QFocusFrame* focusFrame_;
     QPointer<QWidget> focusedControl_;
 };

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <string_view>
+
+/// Makes a screen reader say a text. Without one nothing happens.
+void Announce(std::string_view text);
