@@ -1,5 +1,6 @@
 #include "tests/harness.h"
 
+#include "frame/file_notices.h"
 #include "platform/files.h"
 #include "platform/qt/save_file.h"
 #include "platform/qt/text.h"
@@ -147,6 +148,20 @@ private slots:
         QVERIFY(QDir().mkpath(Preferences())); // a folder stands in the way of the standing scale
         desk.expect("The file \"Preferences\" could not be saved: ");
         desk.press("PushButton4");
+    }
+
+    void aNoticeEndsWithOneFullStopWhateverTheSystemSays()
+    {
+        Desk const desk;
+        QString told;
+        PlatformDoors().messageBox = [&told](MessageBoxRequest const& request) {
+            told = ToQt(request.text);
+            return 0;
+        };
+        for (char const* const reason : {"Path not found", "Path not found.", "Path not found. "}) {
+            TellUnopened(FolderItem("mine"), reason);
+            QCOMPARE(told, "The file \"mine\" could not be opened: Path not found."_L1);
+        }
     }
 };
 
