@@ -30,5 +30,5 @@ private:
     std::unique_ptr<PrintJob> job_;
 };
 
-/// Shows the print dialog. Null if the user cancels.
-std::unique_ptr<Graphics> OpenPrinterDialog();
+/// Shows the print dialog. Null if the user cancels, and with the fault where no dialog can be shown.
+std::unique_ptr<Graphics> OpenPrinterDialog(std::string& fault);

@@ -52,7 +52,11 @@ bool mainscreen::_FilePrint_Action()
         MsgBox("There is currently no data to send to the printer.");
         return false;
     }
-    std::unique_ptr<Graphics> const page = OpenPrinterDialog();
+    std::string fault;
+    std::unique_ptr<Graphics> const page = OpenPrinterDialog(fault);
+    if (!fault.empty()) {
+        TellUnprinted("", fault);
+    }
     if (page == nullptr) {
         return false;
     }

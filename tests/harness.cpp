@@ -41,7 +41,7 @@ Desk::Desk(std::vector<Box> boxes) : expected_(std::move(boxes))
         asked.push_back(request);
         return chosen.isEmpty() ? std::nullopt : std::optional(chosen.toStdString());
     };
-    PlatformDoors().printDialog = [this](QPrinter& printer) {
+    PlatformDoors().printDialog = [this](QPrinter& printer, std::string& /*fault*/) {
         asked.emplace_back();
         printer.setOutputFileName(chosen);
         return !chosen.isEmpty();

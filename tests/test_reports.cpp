@@ -104,6 +104,14 @@ private slots:
         Grade(desk, 161);
         desk.choose("FilePrint");                    // cancelled: no limit message either
         QCOMPARE(desk.asked.size(), std::size_t(1)); // none came before
+        auto const withPrinter = PlatformDoors().printDialog;
+        PlatformDoors().printDialog = [](QPrinter&, std::string& fault) {
+            fault = "no printer is set up";
+            return false;
+        };
+        desk.expect("The results could not be printed: no printer is set up.");
+        desk.choose("FilePrint"); // without a limit message
+        PlatformDoors().printDialog = withPrinter;
         desk.choose("FileReset");
         Grade(desk, 1);
         desk.chosen = desk.at("no/report.pdf");

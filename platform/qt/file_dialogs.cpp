@@ -28,15 +28,13 @@ std::optional<FolderItem> Ask(FileDialogRequest const& request)
     return path ? std::optional(FolderItem(*path)) : std::nullopt;
 }
 
-/// Where a system has file dialogs of its own that users know, those are shown; elsewhere the toolkit's,
-/// which alone show the prompt.
+} // namespace
+
 bool HasFamiliarDialogs()
 {
     QString const platform = QGuiApplication::platformName();
     return platform == QLatin1String("cocoa") || platform == QLatin1String("windows");
 }
-
-} // namespace
 
 std::optional<std::string> ShowFileDialog(FileDialogRequest const& request)
 {

@@ -105,18 +105,23 @@ void Graphics::NextPage()
     job_->nextPage();
 }
 
-bool ShowPrintDialog(QPrinter& printer)
+bool ShowPrintDialog(QPrinter& printer, std::string& fault)
 {
+    // The system's own dialog would not come, without a word, where no printer is set up; the toolkit's offers a file.
+    if (HasFamiliarDialogs() && printer.outputFormat() != QPrinter::NativeFormat) {
+        fault = "no printer is set up";
+        return false;
+    }
     QPrintDialog dialog(&printer, TopLevel::front());
     return dialog.exec() == QDialog::Accepted;
 }
 
-std::unique_ptr<Graphics> OpenPrinterDialog()
+std::unique_ptr<Graphics> OpenPrinterDialog(std::string& fault)
 {
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
     printer->setPageOrientation(QPageLayout::Portrait);
     printer->setFullPage(true);
-    if (!PlatformDoors().printDialog(*printer)) {
+    if (!PlatformDoors().printDialog(*printer, fault)) {
         return nullptr;
     }
     printer->setFullPage(true); // a page set up in the dialog has margins again
