@@ -38,7 +38,13 @@ public:
         }
     }
 
-    [[nodiscard]] QString file() const { return printer_->outputFileName(); }
+    /// The file that the job goes to, empty if it goes to a printer. With "FILE:", which no file can be called,
+    /// Windows means that its printer driver will ask for the file itself.
+    [[nodiscard]] QString file() const
+    {
+        QString const name = printer_->outputFileName();
+        return name == QLatin1String("FILE:") ? QString() : name;
+    }
 
     void draw(QPointF place, QString const& text)
     {
@@ -107,7 +113,7 @@ void Graphics::NextPage()
 
 bool ShowPrintDialog(QPrinter& printer, std::string& fault)
 {
-    // The system's own dialog would not come, without a word, where no printer is set up; the toolkit's offers a file.
+    // Without a printer the system's own dialog stays away in silence; the toolkit's offers a file.
     if (HasFamiliarDialogs() && printer.outputFormat() != QPrinter::NativeFormat) {
         fault = "no printer is set up";
         return false;
