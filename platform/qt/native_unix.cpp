@@ -16,3 +16,5 @@ QString FlushToDisk(int handle)
     bool const hasNone = errno == EINVAL || errno == ENOTSUP; // a file system that keeps nothing back
     return result == 0 || hasNone ? QString() : qt_error_string(errno);
 }
+
+void UseStartersConsole() {} // the streams are there from the start
