@@ -76,7 +76,7 @@ void Report(Integer entries, double painting, double row)
 int main()
 {
     QStandardPaths::setTestModeEnabled(true); // no user's scale file is read
-    RuntimeInit();
+    RuntimeInit(0, nullptr);
     RuntimePerformInitializers();
     ::mainscreen().total().Text("30");
     Paint();

@@ -118,7 +118,10 @@ std::string Format(Double number, std::string_view pattern)
 
 Double Round(Double number)
 {
-    return std::round(number);
+    // std::round is not right everywhere: Windows has one that makes 0.49999999999999994 a 1.
+    Double const whole = std::trunc(number);
+    bool const isBelowHalf = std::fabs(number - whole) < 0.5; // the difference is exact
+    return isBelowHalf ? whole : whole + std::copysign(1.0, number);
 }
 
 Integer ToInteger(Double number)

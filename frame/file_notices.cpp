@@ -2,20 +2,33 @@
 
 #include "platform/message_box.h"
 
+namespace {
+
+/// The end of a notice. Some systems end their reasons with a full stop of their own.
+std::string Because(std::string reason)
+{
+    while (reason.ends_with('.') || reason.ends_with(' ')) {
+        reason.pop_back();
+    }
+    return ": " + reason + ".";
+}
+
+} // namespace
+
 void ReportUnlessSaved(FolderItem const& item, std::string const& fault)
 {
     if (!fault.empty()) {
-        MsgBox("The file \"" + item.Name() + "\" could not be saved: " + fault + ".");
+        MsgBox("The file \"" + item.Name() + "\" could not be saved" + Because(fault));
     }
 }
 
 void ReportNotOpened(FolderItem const& item, std::string const& fault)
 {
-    MsgBox("The file \"" + item.Name() + "\" could not be opened: " + fault + ".");
+    MsgBox("The file \"" + item.Name() + "\" could not be opened" + Because(fault));
 }
 
 void ReportNotPrinted(std::string const& fileName, std::string const& reason)
 {
     std::string const place = fileName.empty() ? "" : " to the file \"" + fileName + "\"";
-    MsgBox("The results could not be printed" + place + ": " + reason + ".");
+    MsgBox("The results could not be printed" + place + Because(reason));
 }

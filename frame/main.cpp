@@ -1,9 +1,9 @@
 #include "frame/startup.h"
 #include "platform/runtime.h"
 
-int main()
+int main(int count, char** arguments)
 {
-    RuntimeInit();
+    RuntimeInit(count, arguments);
     RuntimePerformInitializers();
     _Main();
     RuntimePerformFinalizers();

@@ -65,7 +65,11 @@ void mainscreen::CreateControls()
 #define SCALE_FIELD(name, defaultValue) name().Text(#defaultValue);
 #include "scale/bands.def"
 
+#define LABEL_OF(label, control) label().LabelFor(control());
+#include "frame/mainscreen.def"
+
     ListBox1().ColumnCount(2);
+    ListBox1().SpokenHeaders("Student,Percentage");
     ListBox1().RowSelectionType(1);
     amax().MaximumCharactersAllowed(kMaxLengthOfAmax);
     PushButton1().Default(true);

@@ -30,8 +30,8 @@ struct Doors {
     std::function<void(std::string const& address)> browser;
     /// Returns the path of the chosen file, or nothing.
     std::function<std::optional<std::string>(FileDialogRequest const&)> fileDialog;
-    /// Lets the user set the printer up; false if the user cancels.
-    std::function<bool(QPrinter&)> printDialog;
+    /// Lets the user set the printer up; false if the user cancels, and with the fault if there is no dialog.
+    std::function<bool(QPrinter&, std::string& fault)> printDialog;
 };
 
 Doors& PlatformDoors();

@@ -31,8 +31,10 @@ private:
     std::unique_ptr<PrintJob> job_;
 };
 
-/// Shows the print dialog. Null if the user cancels.
-std::unique_ptr<Graphics> OpenPrinterDialog();
+/// Shows the print dialog for a document of this title. Null if the user cancels, and with the fault if no dialog can
+/// be shown.
+std::unique_ptr<Graphics> OpenPrinterDialog(std::string_view title, std::string& fault);
 
-/// Shows the print dialog as the desktop does it. Returns false if the user cancels.
-bool ShowPrintDialog(QPrinter& printer);
+/// Shows the print dialog as the desktop does it. False if the user cancels, and with the fault if no dialog can be
+/// shown.
+bool ShowPrintDialog(QPrinter& printer, std::string& fault);

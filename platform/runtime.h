@@ -4,8 +4,9 @@
 #include <functional>
 #include <string_view>
 
-/// Creates the toolkit. It is given the program's name and nothing of the command line.
-void RuntimeInit();
+/// Answers the command line, if there is anything to answer, and ends the process then. Else creates the toolkit,
+/// which is given the program's name and nothing of the command line.
+void RuntimeInit(int count, char const* const* arguments);
 
 /// Sets what must be there before the first window: the program's name, how the process ends, and where message
 /// boxes and dialogs appear.

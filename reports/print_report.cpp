@@ -13,6 +13,7 @@
 
 namespace {
 
+constexpr char const* kTitle = "Results from Gradeloom";
 constexpr Integer kRowsInBlock = 40;
 constexpr Integer kRowsOnPage = 2 * kRowsInBlock;
 constexpr Integer kMaxEntries = 160;
@@ -56,7 +57,11 @@ bool mainscreen::_FilePrint_Action()
         MsgBox("There is currently no data to send to the printer.");
         return false;
     }
-    std::unique_ptr<Graphics> const page = OpenPrinterDialog();
+    std::string fault;
+    std::unique_ptr<Graphics> const page = OpenPrinterDialog(kTitle, fault);
+    if (!fault.empty()) {
+        ReportNotPrinted("", fault);
+    }
     if (page == nullptr) {
         return false;
     }
@@ -65,7 +70,7 @@ bool mainscreen::_FilePrint_Action()
         MsgBox("Gradeloom will only print the first 160 entries. If you need to print more scores than 160, "
                "please contact the author at " GRADELOOM_CONTACT);
     }
-    Draw(*page, "Results from Gradeloom", kLeftBlock, kHeadingLine);
+    Draw(*page, kTitle, kLeftBlock, kHeadingLine);
     Draw(*page,
          "Number of Students : " + numstudents().Text() + std::string(7, ' ') +
              "Class Average :  " + EditField1().Text() + " %",

@@ -1,6 +1,7 @@
 #include "frame/conversions.h"
 #include "frame/form_state.h"
 #include "frame/mainscreen.h"
+#include "platform/announcement.h"
 #include "platform/message_box.h"
 #include "scale/bands.h"
 #include "session/history.h"
@@ -138,6 +139,7 @@ bool MakeEntry(class mainscreen& window)
         window.percenttest();
         window.results();
         RecordScore(window, *score, isByCorrect);
+        Announce(window.percentage().Text() + " percent, " + window.lettergrade().Text());
     }
     return score.has_value();
 }

@@ -1,6 +1,7 @@
 #include "frame/conversions.h"
 #include "frame/form_state.h"
 #include "frame/mainscreen.h"
+#include "platform/announcement.h"
 #include "session/history.h"
 #include "session/letter_grade.h"
 #include "session/reset.h"
@@ -29,6 +30,14 @@ void StepBack(class mainscreen& window, Integer entrycount)
     RemoveEntry(window, last);
 }
 
+std::string NumberOfStudents(Integer count)
+{
+    if (count == 0) {
+        return "no students";
+    }
+    return Str(count) + (count == 1 ? " student" : " students");
+}
+
 } // namespace
 
 /// The first entry has no earlier state to go back to, so it goes by clearing everything. The flag problem
@@ -46,5 +55,6 @@ bool mainscreen::_EditUndo_Action()
     if (entrycount == 1) {
         problem().Text("1");
     }
+    Announce(NumberOfStudents(EntryCount(*this)));
     return false;
 }

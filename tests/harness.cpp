@@ -94,13 +94,14 @@ TestSession::TestSession(std::vector<Box> boxes) : expectedBoxes_(std::move(boxe
         dialogs.push_back(request);
         return fileToChoose.isEmpty() ? std::nullopt : std::optional(fileToChoose.toStdString());
     };
-    PlatformDoors().printDialog = [this](QPrinter& printer) {
+    PlatformDoors().printDialog = [this](QPrinter& printer, std::string& fault) {
         dialogs.emplace_back();
+        fault = printFault;
         printer.setOutputFileName(fileToChoose);
         if (setUpPrinter) {
             setUpPrinter(printer);
         }
-        return !fileToChoose.isEmpty();
+        return !fileToChoose.isEmpty() && fault.empty();
     };
     PlatformDoors().browser = [this](std::string const& address) { openedAddress = address; };
     ::mainscreen();
@@ -198,6 +199,13 @@ QLineEdit* TestSession::enterField(QString const& name) const
     return field(name);
 }
 
+/// As an assistive program chooses it, which has its answer before the command runs.
+void TestSession::chooseCommand(char const* item) const
+{
+    menuItem(item)->trigger();
+    QCoreApplication::processEvents();
+}
+
 void TestSession::paste(QString const& text) const
 {
     QGuiApplication::clipboard()->setText(text);
@@ -266,7 +274,7 @@ int RunTests(QObject& tests, int count, char** arguments)
         qputenv("QT_QPA_PLATFORM", "offscreen"); // neither needs a display nor takes a developer's keyboard
     }
     QStandardPaths::setTestModeEnabled(true);
-    RuntimeInit();
+    RuntimeInit(0, nullptr);
     RuntimePerformInitializers();
     int const failures = QTest::qExec(&tests, count, arguments);
     RuntimePerformFinalizers();

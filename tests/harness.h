@@ -85,7 +85,7 @@ public:
     void activate(char const* name = "mainscreen") const;
     /// Moves the focus to a field as Tab does; its GotFocus has been raised when this returns.
     QLineEdit* enterField(QString const& name) const;
-    void chooseCommand(char const* item) const { menuItem(item)->trigger(); }
+    void chooseCommand(char const* item) const;
     void paste(QString const& text) const;
     void click(QString const& name, char const* in = "mainscreen") const;
     /// Clicks as the desktop reports it: to the window, which passes it on to what is under the pointer.
@@ -100,6 +100,7 @@ public:
     std::string openedAddress;                   ///< the last address that was to be opened
     QString fileToChoose;                        ///< the file that the dialogs choose; empty cancels them
     std::vector<FileDialogRequest> dialogs;      ///< the dialogs that came; for a print dialog all is empty
+    std::string printFault;                      ///< why no print dialog can be shown; empty if it can
     std::function<void(QPrinter&)> setUpPrinter; ///< what is done in the print dialog, if anything
     std::function<void()> whileBoxIsUp;          ///< runs before a box is answered, if anything
     std::string lastBox;                         ///< the text of the last box

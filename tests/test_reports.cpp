@@ -104,6 +104,10 @@ private slots:
         Grade(session, 161);
         session.chooseCommand("FilePrint");               // cancelled: no limit message either
         QCOMPARE(session.dialogs.size(), std::size_t(1)); // none came before
+        session.printFault = "no printer is set up";
+        session.expectBox("The results could not be printed: no printer is set up.");
+        session.chooseCommand("FilePrint"); // without a limit message
+        session.printFault = "";
         session.chooseCommand("FileReset");
         Grade(session, 1);
         session.fileToChoose = session.pathOf("no/report.pdf");

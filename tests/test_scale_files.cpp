@@ -1,5 +1,6 @@
 #include "tests/harness.h"
 
+#include "frame/file_notices.h"
 #include "platform/files.h"
 
 #include <QDir>
@@ -146,6 +147,20 @@ private slots:
         QVERIFY(QDir().mkpath(Preferences())); // a folder stands in the way of the standing scale
         session.expectBox("The file \"Preferences\" could not be saved: ");
         session.click("PushButton4");
+    }
+
+    void aNoticeEndsWithOneFullStopWhateverTheSystemSays()
+    {
+        TestSession const session;
+        QString told;
+        PlatformDoors().messageBox = [&told](MessageBoxRequest const& request) {
+            told = QString::fromStdString(request.text);
+            return 0;
+        };
+        for (char const* const reason : {"Path not found", "Path not found.", "Path not found. "}) {
+            ReportNotOpened(FolderItem("mine"), reason);
+            QCOMPARE(told, "The file \"mine\" could not be opened: Path not found."_L1);
+        }
     }
 };
 

@@ -29,14 +29,6 @@ std::optional<FolderItem> Ask(FileDialogRequest const& request)
     return path ? std::optional(FolderItem(*path)) : std::nullopt;
 }
 
-/// Systems that have file dialogs of their own that users know show those; elsewhere the toolkit's are shown,
-/// since only they show the prompt.
-bool HasFamiliarDialogs()
-{
-    QString const platform = QGuiApplication::platformName();
-    return platform == QLatin1String("cocoa") || platform == QLatin1String("windows");
-}
-
 } // namespace
 
 std::optional<std::string> ShowFileDialog(FileDialogRequest const& request)

@@ -4,6 +4,7 @@
 #include "platform/qt/text.h"
 #include "platform/qt/widgets/line_edit.h"
 #include "platform/qt/widgets/menu_action.h"
+#include "platform/qt/widgets/program.h"
 #include "platform/qt/widgets/text_commands.h"
 #include "platform/qt/widgets/top_level.h"
 
@@ -109,7 +110,7 @@ void MenuItem::BuildMenu(MenuBar& bar)
         QObject::connect(menu_.get(), &QMenu::aboutToShow, menu_.get(), [&bar] { bar.Update(); });
     } else {
         QObject::connect(action_.get(), &QAction::triggered, action_.get(),
-                         [this] { MenuBar::Choose(*this); });
+                         [this] { Program::runCommand([this] { MenuBar::Choose(*this); }); });
     }
     for (auto const& child : children_) {
         child->BuildMenu(bar);

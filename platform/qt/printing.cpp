@@ -9,6 +9,7 @@
 #include "platform/qt/widgets/top_level.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QPainter>
 #include <QPdfWriter>
@@ -28,20 +29,31 @@ constexpr int kFontHeight = 12;
 /// that a full or unwritable disk is noticed and an older file survives it.
 class PrintJob {
 public:
-    explicit PrintJob(std::unique_ptr<QPrinter> printer) : printer_(std::move(printer))
+    /// A printer queue and a viewer of the file call the document by this title.
+    PrintJob(std::unique_ptr<QPrinter> printer, QString const& title) : printer_(std::move(printer))
     {
+        printer_->setDocName(title);
+        printer_->setCreator(QCoreApplication::applicationName());
         if (file().isEmpty()) {
             begin(*printer_, printer_->resolution());
         } else {
             document_.open(QIODevice::WriteOnly);
             writer_ = std::make_unique<QPdfWriter>(&document_);
+            writer_->setTitle(title);
+            writer_->setCreator(QCoreApplication::applicationName());
             writer_->setResolution(printer_->resolution());
             writer_->setPageLayout(printer_->pageLayout());
             begin(*writer_, printer_->resolution());
         }
     }
 
-    [[nodiscard]] QString file() const { return printer_->outputFileName(); }
+    /// The file that the job goes to, empty if it goes to a printer. With "FILE:", which no file can be called,
+    /// Windows means that its printer driver will ask for the file itself.
+    [[nodiscard]] QString file() const
+    {
+        QString const name = printer_->outputFileName();
+        return name == QLatin1String("FILE:") ? QString() : name;
+    }
 
     void draw(QPointF place, QString const& text)
     {
@@ -111,23 +123,28 @@ void Graphics::NextPage()
     job_->nextPage();
 }
 
-bool ShowPrintDialog(QPrinter& printer)
+bool ShowPrintDialog(QPrinter& printer, std::string& fault)
 {
     if (Runtime::instance().isEnding) {
+        return false;
+    }
+    // Without a printer the system's own dialog does not come, and says nothing; the toolkit's offers a file.
+    if (HasFamiliarDialogs() && printer.outputFormat() != QPrinter::NativeFormat) {
+        fault = "no printer is set up";
         return false;
     }
     QPrintDialog dialog(&printer, TopLevel::front());
     return RunDialog(dialog) == QDialog::Accepted;
 }
 
-std::unique_ptr<Graphics> OpenPrinterDialog()
+std::unique_ptr<Graphics> OpenPrinterDialog(std::string_view title, std::string& fault)
 {
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
     printer->setPageOrientation(QPageLayout::Portrait);
     printer->setFullPage(true);
-    if (!PlatformDoors().printDialog(*printer)) {
+    if (!PlatformDoors().printDialog(*printer, fault)) {
         return nullptr;
     }
     printer->setFullPage(true); // a page set up in the dialog has margins again
-    return std::make_unique<Graphics>(std::make_unique<PrintJob>(std::move(printer)));
+    return std::make_unique<Graphics>(std::make_unique<PrintJob>(std::move(printer), ToQt(title)));
 }

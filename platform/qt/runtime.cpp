@@ -14,7 +14,9 @@
 #include <QIcon>
 #include <QStyleHints>
 
+#include <cstdlib>
 #include <iostream>
+#include <optional>
 
 namespace {
 
@@ -33,10 +35,39 @@ public:
     }
 };
 
+/// Returns the exit status if the program is only asked something, or something that it does not know.
+std::optional<int> AnswerCommandLine(int count, char const* const* arguments)
+{
+    for (int i = 1; i < count; ++i) {
+        std::string_view const argument = arguments[i];
+        if (argument == "--version") {
+            std::cout << PROGRAM_NAME " " PROGRAM_VERSION << std::endl;
+            return EXIT_SUCCESS;
+        }
+        if (argument == "--help") {
+            std::cout << "Usage: " PROGRAM_NAME "\n" PROGRAM_DESCRIPTION ".\nFiles are opened from its menu.\n\n"
+                         "  --help     show this text and end\n"
+                         "  --version  show the version and end"
+                      << std::endl;
+            return EXIT_SUCCESS;
+        }
+        if (argument != "-session") {
+            std::cerr << PROGRAM_NAME ": unknown argument \"" << argument << "\"; see --help" << std::endl;
+            return 2;
+        }
+        ++i; // a desktop restarts the program with the name of its session, which there is no use for
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
-void RuntimeInit()
+void RuntimeInit(int count, char const* const* arguments)
 {
+    UseStartersConsole();
+    if (std::optional<int> const status = AnswerCommandLine(count, arguments)) {
+        std::exit(*status);
+    }
     Runtime::instance().start(PROGRAM_NAME);
 }
 

@@ -13,6 +13,10 @@ extern char const* const kLineEnd;
 /// none.
 QString FlushToDisk(int handle);
 
+/// Lets standard output and error appear on the console that started the program, on systems that detach programs
+/// with windows from it. Streams that lead to a file or a pipe stay as they are.
+void UseStartersConsole();
+
 /// Calls back from the event loop when the system asks the program to end, and makes a file that grows past the
 /// user's limit a failed write instead of the program's death.
 void HandleSignals(std::function<void()> const& end);

@@ -21,6 +21,8 @@ QString FlushToDisk(int handle)
     return result == 0 || hasNone ? QString() : qt_error_string(errno);
 }
 
+void UseStartersConsole() {} // the streams are connected from the start
+
 namespace {
 
 std::array<int, 2> signalPipe = {-1, -1}; // the end to read from, the end to write to

@@ -2,8 +2,19 @@
 
 #include <QtGlobal>
 
+#include <cstdio>
 #include <io.h>
 #include <stdlib.h>
+#include <windows.h>
+
+namespace {
+
+bool LeadsNowhere(DWORD stream)
+{
+    return GetFileType(GetStdHandle(stream)) == FILE_TYPE_UNKNOWN;
+}
+
+} // namespace
 
 char const* const kLineEnd = "\r\n";
 
@@ -14,3 +25,19 @@ QString FlushToDisk(int handle)
 
 /// There are no such signals here.
 void HandleSignals(std::function<void()> const& /*end*/) {}
+
+void UseStartersConsole()
+{
+    // Asked first: once attached, both lead somewhere, but the C++ streams would not know.
+    bool const needsOutput = LeadsNowhere(STD_OUTPUT_HANDLE);
+    bool const needsError = LeadsNowhere(STD_ERROR_HANDLE);
+    if (AttachConsole(ATTACH_PARENT_PROCESS) == FALSE) {
+        return; // started by a click
+    }
+    if (needsOutput) {
+        (void)std::freopen("CONOUT$", "w", stdout);
+    }
+    if (needsError) {
+        (void)std::freopen("CONOUT$", "w", stderr);
+    }
+}

@@ -1,6 +1,6 @@
 #include "platform/qt/system/runtime_object.h"
 
-#include <QApplication>
+#include "platform/qt/widgets/program.h"
 
 Runtime::Runtime() = default;
 Runtime::~Runtime() = default;
@@ -15,7 +15,7 @@ void Runtime::start(char const* programName)
 {
     name_ = programName;
     arguments_ = {name_.data(), nullptr};
-    toolkit_ = std::make_unique<QApplication>(argumentCount_, arguments_.data());
+    toolkit_ = std::make_unique<Program>(argumentCount_, arguments_.data());
     isEnding = false;
 }
 

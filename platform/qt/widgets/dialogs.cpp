@@ -1,6 +1,7 @@
 #include "platform/qt/widgets/dialogs.h"
 
 #include <QDialog>
+#include <QGuiApplication>
 #include <QPointer>
 
 int RunDialog(QDialog& dialog)
@@ -11,4 +12,10 @@ int RunDialog(QDialog& dialog)
         asking->activateWindow();
     }
     return result;
+}
+
+bool HasFamiliarDialogs()
+{
+    QString const platform = QGuiApplication::platformName();
+    return platform == QLatin1String("cocoa") || platform == QLatin1String("windows");
 }

@@ -1,5 +1,6 @@
 #include "platform/qt/widgets/list_view.h"
 
+#include <QAbstractButton>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -22,6 +23,7 @@ ListView::ListView(QWidget* parent) : QTableView(parent), rows_(new ListModel(th
     verticalHeader()->setModel(new ListModel(this)); // one that never has a row
     verticalHeader()->hide();
     horizontalHeader()->hide();
+    findChild<QAbstractButton*>()->hide(); // the corner between them
     horizontalHeader()->setMinimumSectionSize(1);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     setTabKeyNavigation(false);
