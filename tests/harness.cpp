@@ -160,6 +160,16 @@ void TestSession::expectEmpty(QString const& names, char const* in, char const* 
     expectFields(QString(names).replace(u" "_s, u"= "_s) + u'=', in, file, line);
 }
 
+void TestSession::expectScale(QString const& numbers, char const* file, int line) const
+{
+    QStringList const stated = numbers.split(u' ');
+    QStringList const names = QString(kScaleFieldNames).split(u' ');
+    QStringList const defaults = QString(kDefaultScale).split(u' ');
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        expectFields(names[i] + u'=' + stated.value(i, defaults[i]), "mainscreen", file, line);
+    }
+}
+
 QList<QAction*> TestSession::menuItems() const
 {
     QList<QAction*> all;

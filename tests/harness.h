@@ -29,6 +29,9 @@ inline constexpr char const* kScaleFieldNames = "aplusmax aplusmin amax amin ami
                                                 "cplusmax cplusmin cmax cmin cminusmax cminusmin "
                                                 "dplusmax dplusmin dmax dmin dminusmax dminusmin";
 
+inline constexpr char const* kDefaultScale =
+    "100 98 97 93 92 90 89 88 87 83 82 80 79 78 77 73 72 70 69 68 67 63 62 60";
+
 /// The program from its start to its end, with every message box and dialog answered by the test. A box that
 /// the test did not expect, or a second one at once, fails it and is answered with No; an expected box that does not come fails it too.
 class TestSession {
@@ -73,6 +76,10 @@ public:
                       char const* file = __builtin_FILE(), int line = __builtin_LINE()) const;
     /// Fails for each of these controls that is not empty: "percentage ListBox1".
     void expectEmpty(QString const& names, char const* in = "mainscreen", char const* file = __builtin_FILE(),
+                     int line = __builtin_LINE()) const;
+
+    /// Fails for each scale field that differs: "100 99 98" are the first fields, the others have their default.
+    void expectScale(QString const& numbers, char const* file = __builtin_FILE(),
                      int line = __builtin_LINE()) const;
 
     /// The menus of the window in front, each followed by its items.
