@@ -206,12 +206,14 @@ private slots:
     void onlyTheFirstLineLosesItsByteOrderMark()
     {
         QTemporaryDir const folder;
-        WriteFile(folder.filePath("marks"), "\xEF\xBB\xBF" "98\n\xEF\xBB\xBF\xEF\xBB\xBF" "97\n93\0\xFF"_ba);
+        WriteFile(folder.filePath("marks"), "\xEF\xBB\xBF"
+                                            "98\n\xEF\xBB\xBF\xEF\xBB\xBF"
+                                            "97\n93\0\xFF"_ba);
         std::string fault;
         auto const stream = FolderItem(folder.filePath("marks").toStdString()).OpenAsTextFile(fault);
         QCOMPARE(stream->ReadLine(), "98"s);
         QVERIFY(stream->ReadLine() != "97");
-        QCOMPARE(stream->ReadLine(), "93\0\xEF\xBF\xBD"s); // an invalid byte is replaced
+        QCOMPARE(stream->ReadLine(), "93\0\xEF\xBF\xBD"s);              // an invalid byte is replaced
         QVERIFY(stream->ReadLine().empty() && stream->Fault().empty()); // past the end
     }
 
