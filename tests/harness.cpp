@@ -181,11 +181,12 @@ QList<QAction*> TestSession::menuItems() const
     return all;
 }
 
-QAction* TestSession::menuItem(char const* name) const
+QAction* TestSession::menuItem(QString const& name) const
 {
     QList<QAction*> const all = menuItems();
-    auto const isMeant = [name](QAction const* item) { return item->objectName() == QLatin1String(name); };
-    return *std::find_if(all.begin(), all.end(), isMeant);
+    auto const isMeant = [name](QAction const* item) { return item->objectName() == name; };
+    auto const found = std::find_if(all.begin(), all.end(), isMeant);
+    return found == all.end() ? nullptr : *found;
 }
 
 void TestSession::activate(char const* name) const
@@ -226,19 +227,44 @@ void TestSession::type(QString const& name, QString const& text, char const* in)
     QTest::keyClicks(widget(name, in), QString(text).replace(u'\n', u'\r'));
 }
 
-void TestSession::enterScores(QString const& points, QStringList const& missed) const
-{
-    type("total", points);
-    for (QString const& score : missed) {
-        type("missed", score + u'\n');
-    }
-}
-
 void TestSession::setFields(QString const& fields) const
 {
     for (auto const& [name, text] : NamesAndTexts(fields)) {
         WriteByProgram(widget(name), text);
     }
+}
+
+void TestSession::play(QString const& acts) const
+{
+    for (QString const& act : acts.split(u"; "_s, Qt::SkipEmptyParts)) {
+        QString const word = act.section(u' ', 0, 0), rest = act.section(u' ', 1);
+        if (word == "write"_L1) {
+            setFields(rest);
+        } else if (word == "focus"_L1) {
+            enterField(rest);
+        } else if (word == "key"_L1) {
+            QKeyCombination const key = QKeySequence(rest)[0];
+            QTest::keyClick(QApplication::focusWidget(), key.key(), key.keyboardModifiers());
+        } else if (word == "keys"_L1) {
+            QTest::keyClicks(QApplication::focusWidget(), rest);
+        } else if (word == "paste"_L1) {
+            paste(rest);
+        } else if (act.contains(u'=')) {
+            type(act.section(u'=', 0, 0), act.section(u'=', 1).replace(u" Return"_s, u"\n"_s));
+        } else if (QAction* const command = menuItem(word)) {
+            command->trigger();
+        } else {
+            click(word);
+        }
+    }
+}
+
+void CheckScenario()
+{
+    QFETCH(Scenario const*, row);
+    TestSession const session(row->boxes);
+    session.play(row->acts);
+    session.expectFields(row->fields);
 }
 
 void SendInputMethod(QLineEdit* field, char const* commit, char const* composing)

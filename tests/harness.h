@@ -84,7 +84,7 @@ public:
 
     /// The menus of the window in front, each followed by its items.
     [[nodiscard]] QList<QAction*> menuItems() const;
-    [[nodiscard]] QAction* menuItem(char const* name) const;
+    [[nodiscard]] QAction* menuItem(QString const& name) const;
     /// A path in a folder of this session's own.
     [[nodiscard]] QString pathOf(char const* name) const { return folder_.filePath(QLatin1String(name)); }
 
@@ -92,7 +92,7 @@ public:
     void activate(char const* name = "mainscreen") const;
     /// Moves the focus to a field as Tab does; its GotFocus has been raised when this returns.
     QLineEdit* enterField(QString const& name) const;
-    void chooseCommand(char const* item) const { menuItem(item)->trigger(); }
+    void chooseCommand(QString const& item) const { menuItem(item)->trigger(); }
     void paste(QString const& text) const;
     void click(QString const& name, char const* in = "mainscreen") const;
     /// Clicks as the desktop reports it: to the window, which passes it on to what is under the pointer.
@@ -100,9 +100,19 @@ public:
     /// Replaces a field's text by typing, key by key; a line end is a press of Return.
     void type(QString const& name, QString const& text, char const* in = "mainscreen") const;
     /// Types the number of points, then each number missed with Return.
-    void enterScores(QString const& points, QStringList const& missed) const;
+    void enterScores(QString const& points, QStringList const& missed) const
+    {
+        play("total=" + points + "; missed=" + missed.join(u" Return; missed=") + " Return");
+    }
     /// Writes texts as the program does: "amin=80 amax=97".
     void setFields(QString const& fields) const;
+
+    /// Carries acts out in their order, separated by "; ":
+    ///   missed=3     types into the field, "missed=3 Return" presses Return then
+    ///   EditUndo     chooses the command of that name, or else clicks the control
+    ///   focus amin   enters the field; key Left, keys 96 and paste 12 act on the focused one
+    ///   write amin=80 amax=97   writes as the program does
+    void play(QString const& acts) const;
 
     std::string openedAddress;                   ///< the last address that was to be opened
     QString fileToChoose;                        ///< the file that the dialogs choose; empty cancels them
@@ -116,6 +126,17 @@ private:
     bool isBoxUp_ = false;
     QTemporaryDir folder_;
 };
+
+/// What a teacher does, the boxes that come, and what the controls hold then.
+struct Scenario {
+    char const* name;
+    char const* acts;
+    std::vector<TestSession::Box> boxes;
+    char const* fields;
+};
+
+/// Plays the scenario of the current row.
+void CheckScenario();
 
 /// Adds a row of test data for each row of a table; a row has a name. QFETCH gets a pointer to it.
 template <class Row, std::size_t count>

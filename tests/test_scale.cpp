@@ -11,7 +11,7 @@ struct RepairCase {
     bool isSoundAfterwards;
 } const kRepairs[] = {
     {"a minimum above its maximum",     "amin=80",
-     "100 98 97 80 79 78 77 76 75 74 73 72 71 70 69 68 67 66 65 64 63 63", "1", true},
+     "100 98 97 80 79 78 77 76 75 74 73 72 71 70 69 68 67 66 65 64 63 63",   "1", true},
     {"the typed top counts below it",   "aplusmax=95",               "100 99 98",       "1", true},
     {"the typed top counts above it",   "aplusmax=105 aplusmin=103", "100 103 102",     "1", false},
     {"numbers below zero set no mark",  "aplusmin=10",
@@ -25,6 +25,14 @@ struct RepairCase {
      "100 98 97 93 92 90 89 88 87 83 82 80 79 78 77 73 72 70 69 68 67 64.1 63.1", "1", false},
     {"words count as 0",                "aplusmax=word dminusmin=",
      "100 99 98 93 92 90 89 88 87 83 82 80 79 78 77 73 72 70 69 68 67 63 62 ", "1", true},
+};
+
+Scenario const kDefaults[] = {
+    {"Default restores the scale and keeps the mark", "write amin=word dminusmin=50 foundaproblem=1; PushButton3", {},
+     "amin=93 dminusmin=60 foundaproblem=1"},
+    {"Default refuses under entries", "total=30; missed=3 Return; write dminusmin=50; PushButton3",
+     {{"Changing the grading scale to the Default cannot happen until you have reset the scores already entered."}},
+     "dminusmin=50"},
 };
 // clang-format on
 
@@ -46,18 +54,17 @@ class Scale final : public QObject {
 
 private slots:
     void theRepairWorksFromTheTopDown_data() { AddRows(kRepairs); }
-
     void theRepairWorksFromTheTopDown()
     {
         QFETCH(RepairCase const*, row);
         TestSession session;
         session.expectScale(kDefaultScale);
         session.setFields(row->typed);
-        QString const expected =
-            *row->scale == '\0' ? session.texts(kScaleFieldNames).replace(u'|', u' ') : QString(row->scale);
+        QString const before = session.texts(kScaleFieldNames).replace(u'|', u' ');
+        bool const isRepaired = *row->scale != '\0';
         session.whileBoxIsUp = [&] { session.expectFields("foundaproblem="); }; // set after the notice
-        Repair(session, *row->scale != '\0');
-        session.expectScale(expected);
+        Repair(session, isRepaired);
+        session.expectScale(isRepaired ? row->scale : before);
         session.whileBoxIsUp = nullptr;
         Repair(session, !row->isSoundAfterwards);
         session.expectFields("foundaproblem="_L1 + row->mark); // once set it stays
@@ -80,25 +87,8 @@ private slots:
         }
     }
 
-    void theDefaultButtonRestoresTheScale()
-    {
-        TestSession const session;
-        session.setFields("amin=word dminusmin=50 foundaproblem=1");
-        session.click("PushButton3");
-        session.expectScale(kDefaultScale);
-        session.expectFields("foundaproblem=1");
-    }
-
-    void theDefaultButtonRefusesUnderEntries()
-    {
-        TestSession const session(
-            {{"Changing the grading scale to the Default cannot happen until you have reset "
-              "the scores already entered."}});
-        session.enterScores("30", {"3"});
-        session.setFields("dminusmin=50");
-        session.click("PushButton3");
-        session.expectFields("dminusmin=50");
-    }
+    void theDefaultButtonRestoresTheScaleWithoutEntries_data() { AddRows(kDefaults); }
+    void theDefaultButtonRestoresTheScaleWithoutEntries() { CheckScenario(); }
 };
 
 GRADELOOM_TEST(Scale)
