@@ -117,17 +117,13 @@ struct NoFile {
     char const* name;
     void (*make)(QString const& path);
 } const kNoFiles[] = {
-    {"missing",          [](QString const&) {}                                               },
-    {"folder",           [](QString const& path) { QDir().mkdir(path); }                     },
-    {"pipe",             [](QString const& path) { mkfifo(QFile::encodeName(path), 0600); }  },
-    {"endless device",   [](QString const& path) { QFile::link(u"/dev/zero"_s, path); }      },
-    {"empty device",     [](QString const& path) { QFile::link(u"/dev/null"_s, path); }      },
-    {"65537 characters", [](QString const& path) { WriteFile(path, QByteArray(65537, '1')); }},
-    {"300 MB",
-     [](QString const& path) {
-         WriteFile(path, "");
-         QFile::resize(path, 300'000'000);
-     }                                                                                       },
+    {"missing",          [](QString const&) {}                                                             },
+    {"folder",           [](QString const& path) { QDir().mkdir(path); }                                   },
+    {"pipe",             [](QString const& path) { mkfifo(QFile::encodeName(path), 0600); }                },
+    {"endless device",   [](QString const& path) { QFile::link(u"/dev/zero"_s, path); }                    },
+    {"empty device",     [](QString const& path) { QFile::link(u"/dev/null"_s, path); }                    },
+    {"65537 characters", [](QString const& path) { WriteFile(path, QByteArray(65537, '1')); }              },
+    {"300 MB",           [](QString const& path) { WriteFile(path, ""), QFile::resize(path, 300'000'000); }},
 };
 
 } // namespace
@@ -138,7 +134,6 @@ class FileFaults final : public QObject {
 
 private slots:
     void aFaultOfAnyCallKeepsTheOldFileAndSaysWhy_data() { AddRows(kFaults); }
-
     void aFaultOfAnyCallKeepsTheOldFileAndSaysWhy()
     {
         QFETCH(Fault const*, row);
@@ -219,7 +214,6 @@ private slots:
     }
 
     void whatIsNoScaleFileIsReportedAtOnceAndChangesNothing_data() { AddRows(kNoFiles); }
-
     void whatIsNoScaleFileIsReportedAtOnceAndChangesNothing()
     {
         QFETCH(NoFile const*, row);

@@ -140,8 +140,7 @@ private slots:
     {
         TestSession const session({{"There is currently no data to send to the printer."},
                                    {"There is currently no data to export to disk."}});
-        session.chooseCommand("FilePrint");
-        session.chooseCommand("FileExport");
+        session.play("FilePrint; FileExport");
         QVERIFY(session.dialogs.empty());
     }
 
@@ -149,28 +148,23 @@ private slots:
     {
         TestSession const session;
         Grade(session, 161);
-        session.chooseCommand("FilePrint"); // no message about the limit either
-        session.chooseCommand("FileExport");
+        session.play("FilePrint; FileExport"); // no message about the limit either
         QCOMPARE(session.dialogs.size(), std::size_t(2));
     }
 
-    void aReportThatCannotBeWrittenIsReported()
+    void whatCannotBeWrittenIsReportedWithItsReason()
     {
         TestSession session;
         Grade(session, 1);
-        session.fileToChoose = session.pathOf("no/report.pdf");
-        session.expectBox("The results could not be printed to the file \"report.pdf\": ");
-        session.chooseCommand("FilePrint");
-        QVERIFY(!session.lastBox.ends_with(": ."));
-    }
-
-    void anExportThatCannotBeWrittenIsReported()
-    {
-        TestSession session;
-        Grade(session, 1);
-        session.fileToChoose = session.pathOf("no/percents");
-        session.expectBox("The file \"percents\" could not be saved: ");
-        session.chooseCommand("FileExport");
+        session.fileToChoose = session.pathOf("no/file");
+        for (auto const& [command, notice] : {
+                 std::pair("FilePrint", "The results could not be printed to the file \"file\": "),
+                 {"FileExport", "The file \"file\" could not be saved: "}
+        }) {
+            session.expectBox(notice);
+            session.chooseCommand(command);
+            QVERIFY(!session.lastBox.ends_with(": ."));
+        }
         session.expectFields("numstudents=1");
     }
 
@@ -184,18 +178,13 @@ private slots:
             session.chooseCommand("FileExport");
             QCOMPARE(ContentOf(session.fileToChoose), "90\n86.666\n100\n0\n"_ba);
         }
+        session.chooseCommand("FileReset");
+        Grade(session, 161); // there is no limit
+        session.chooseCommand("FileExport");
+        QVERIFY(ContentOf(session.fileToChoose).endsWith("\n20\n19.5\n"));
         FileDialogRequest const& dialog = session.dialogs[0];
         QVERIFY(dialog.saving && dialog.title == "Save your file" && dialog.prompt == "Enter a filename");
         QCOMPARE(dialog.suggestedName, std::string("ExportedPercents"));
-    }
-
-    void theExportHasNoLimit()
-    {
-        TestSession session;
-        Grade(session, 161);
-        session.fileToChoose = session.pathOf("out");
-        session.chooseCommand("FileExport");
-        QVERIFY(ContentOf(session.fileToChoose).endsWith("\n20\n19.5\n"));
     }
 
     void theRealFileDialogLeadsToARealFile()
