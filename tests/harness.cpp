@@ -13,10 +13,9 @@
 
 #include <algorithm>
 
-// The two functions that know the inside of the layer over the desktop.
-
 namespace {
 
+// These two alone know the inside of the layer over the desktop.
 void WriteByProgram(QWidget* field, QString const& text)
 {
     static_cast<LineEdit*>(field)->writeByProgram(text);
@@ -26,10 +25,6 @@ void CloseAllWindows()
 {
     EndOpenWindows();
 }
-
-} // namespace
-
-namespace {
 
 Doors const& RealDoors()
 {
@@ -51,15 +46,13 @@ std::vector<std::pair<QString, QString>> NamesAndTexts(QString const& fields)
 
 QString RowsOf(QAbstractItemModel const& model)
 {
-    QStringList rows;
-    for (int row = 0; row < model.rowCount(); ++row) {
-        QStringList cells;
-        for (int column = 0; column < model.columnCount(); ++column) {
-            cells += model.index(row, column).data().toString();
-        }
-        rows += cells.join(u',');
+    QString rows;
+    for (int i = 0; i < model.rowCount() * model.columnCount(); ++i) {
+        int const column = i % model.columnCount();
+        rows += column > 0 ? u"," : i > 0 ? u";" : u"";
+        rows += model.index(i / model.columnCount(), column).data().toString();
     }
-    return rows.join(u';');
+    return rows;
 }
 
 } // namespace
@@ -181,14 +174,6 @@ QList<QAction*> TestSession::menuItems() const
     return all;
 }
 
-QAction* TestSession::menuItem(QString const& name) const
-{
-    QList<QAction*> const all = menuItems();
-    auto const isMeant = [name](QAction const* item) { return item->objectName() == name; };
-    auto const found = std::find_if(all.begin(), all.end(), isMeant);
-    return found == all.end() ? nullptr : *found;
-}
-
 void TestSession::activate(char const* name) const
 {
     window(name)->activateWindow();
@@ -234,10 +219,18 @@ void TestSession::setFields(QString const& fields) const
     }
 }
 
+void TestSession::enterScores(QString const& points, QStringList const& missed) const
+{
+    play("total=" + points + "; missed=" + missed.join(u" Return; missed=") + " Return");
+}
+
 void TestSession::play(QString const& acts) const
 {
-    for (QString const& act : acts.split(u"; "_s, Qt::SkipEmptyParts)) {
+    QList<QAction*> const items = menuItems();
+    for (QString const& act : acts.split(u"; "_s)) {
         QString const word = act.section(u' ', 0, 0), rest = act.section(u' ', 1);
+        auto const command = std::find_if(items.begin(), items.end(),
+                                          [&](QAction const* item) { return item->objectName() == act; });
         if (word == "write"_L1) {
             setFields(rest);
         } else if (word == "focus"_L1) {
@@ -251,10 +244,10 @@ void TestSession::play(QString const& acts) const
             paste(rest);
         } else if (act.contains(u'=')) {
             type(act.section(u'=', 0, 0), act.section(u'=', 1).replace(u" Return"_s, u"\n"_s));
-        } else if (QAction* const command = menuItem(word)) {
-            command->trigger();
+        } else if (command != items.end()) {
+            (*command)->trigger();
         } else {
-            click(word);
+            click(act);
         }
     }
 }
