@@ -103,15 +103,6 @@ bool FailCall(int number, bool existed, QStringList& failed)
     return wasReached;
 }
 
-struct Fault {
-    char const* name;
-    int number;
-} const kFaults[] = {
-    {"input or output error", EIO   },
-    {"disk full",             ENOSPC},
-    {"no permission",         EACCES}
-};
-
 /// What can be chosen in the dialog and is no scale file; the paths are in the session's folder.
 struct NoFile {
     char const* name;
@@ -133,17 +124,15 @@ class FileFaults final : public QObject {
     Q_OBJECT
 
 private slots:
-    void aFaultOfAnyCallKeepsTheOldFileAndSaysWhy_data() { AddRows(kFaults); }
     void aFaultOfAnyCallKeepsTheOldFileAndSaysWhy()
     {
-        QFETCH(Fault const*, row);
-        faultNumber = row->number;
-        for (bool const existed : {false, true}) {
-            QStringList failed;
-            for (int number = 1; FailCall(number, existed, failed); ++number) {
-            }
-            for (QString const& call : {u"open64"_s, u"write"_s, u"fsync"_s}) {
-                QVERIFY2(failed.contains(call), qPrintable(call));
+        for (int const fault : {EIO, ENOSPC, EACCES}) {
+            faultNumber = fault;
+            for (bool const existed : {false, true}) {
+                QStringList failed;
+                for (int number = 1; FailCall(number, existed, failed); ++number) {
+                }
+                QVERIFY(failed.contains("open64") && failed.contains("write") && failed.contains("fsync"));
             }
         }
     }
@@ -190,27 +179,22 @@ private slots:
             QString const path = folder.filePath(QString(length, u'n'));
             QString const reason = Save(path, "text\n");
             QVERIFY(reason.isEmpty() ? ContentOf(path) == "text\n"
-                                     : reason == "its name is too long"_L1 && length > 248);
+                                     : length > 248 && reason.contains("too long"));
         }
     }
 
     void aFolderAPipeAndADeviceAreNotReplaced()
     {
         QTemporaryDir const folder;
-        QByteArray const pipe = QFile::encodeName(folder.filePath(u"pipe"_s));
-        QByteArray const device = QFile::encodeName(folder.filePath(u"device"_s));
-        QCOMPARE(mkfifo(pipe, 0600), 0);
-        bool const hasDevice =
-            mknod(device, S_IFCHR | 0600, makedev(1, 3)) == 0; // one of our own, for root alone
-        for (QString const& path :
-             {folder.path(), folder.filePath(u"pipe"_s), folder.filePath(u"device"_s)}) {
-            if (hasDevice || !path.endsWith("device"_L1)) {
+        QString const pipe = folder.filePath("pipe"), device = folder.filePath("device");
+        QCOMPARE(mkfifo(QFile::encodeName(pipe), 0600), 0);
+        static_cast<void>(mknod(QFile::encodeName(device), S_IFCHR | 0600, makedev(1, 3))); // root alone can
+        for (QString const& path : {folder.path(), pipe, device}) {
+            if (QFileInfo::exists(path)) {
                 QCOMPARE(Save(path, "text\n"), "it is not a plain file"_L1);
+                QVERIFY(!QFileInfo(path).isFile());
             }
         }
-        struct stat status = {};
-        QVERIFY(stat(pipe, &status) == 0 && S_ISFIFO(status.st_mode));
-        QVERIFY(!hasDevice || (stat(device, &status) == 0 && S_ISCHR(status.st_mode)));
     }
 
     void whatIsNoScaleFileIsReportedAtOnceAndChangesNothing_data() { AddRows(kNoFiles); }
