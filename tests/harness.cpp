@@ -13,10 +13,9 @@
 
 #include <algorithm>
 
-// The two functions that know the inside of the layer over the desktop.
-
 namespace {
 
+// These two alone know the inside of the layer over the desktop.
 void WriteByProgram(QWidget* field, QString const& text)
 {
     static_cast<LineEdit*>(field)->writeByProgram(text);
@@ -27,15 +26,6 @@ void CloseAllWindows()
     Runtime::instance().windows.clear();
 }
 
-/// A session in the same process may have ended the program.
-void StartAgain()
-{
-    Runtime::instance().isEnding = false;
-}
-
-} // namespace
-
-namespace {
 
 Doors const& RealDoors()
 {
@@ -57,18 +47,21 @@ std::vector<std::pair<QString, QString>> NamesAndTexts(QString const& fields)
 
 QString RowsOf(QAbstractItemModel const& model)
 {
-    QStringList rows;
-    for (int row = 0; row < model.rowCount(); ++row) {
-        QStringList cells;
-        for (int column = 0; column < model.columnCount(); ++column) {
-            cells += model.index(row, column).data().toString();
-        }
-        rows += cells.join(u',');
+    QString rows;
+    for (int i = 0; i < model.rowCount() * model.columnCount(); ++i) {
+        int const column = i % model.columnCount();
+        rows += column > 0 ? u"," : i > 0 ? u";" : u"";
+        rows += model.index(i / model.columnCount(), column).data().toString();
     }
-    return rows.join(u';');
+    return rows;
 }
 
 } // namespace
+
+void StartAgain()
+{
+    Runtime::instance().isEnding = false;
+}
 
 TestSession::TestSession(std::vector<Box> boxes) : expectedBoxes_(std::move(boxes))
 {
@@ -168,6 +161,16 @@ void TestSession::expectEmpty(QString const& names, char const* in, char const* 
     expectFields(QString(names).replace(u" "_s, u"= "_s) + u'=', in, file, line);
 }
 
+void TestSession::expectScale(QString const& numbers, char const* file, int line) const
+{
+    QStringList const stated = numbers.split(u' ');
+    QStringList const names = QString(kScaleFieldNames).split(u' ');
+    QStringList const defaults = QString(kDefaultScale).split(u' ');
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        expectFields(names[i] + u'=' + stated.value(i, defaults[i]), "mainscreen", file, line);
+    }
+}
+
 QList<QAction*> TestSession::menuItems() const
 {
     QList<QAction*> all;
@@ -177,13 +180,6 @@ QList<QAction*> TestSession::menuItems() const
         all += menu->menu() != nullptr ? menu->menu()->actions() : QList<QAction*>();
     }
     return all;
-}
-
-QAction* TestSession::menuItem(char const* name) const
-{
-    QList<QAction*> const all = menuItems();
-    auto const isMeant = [name](QAction const* item) { return item->objectName() == QLatin1String(name); };
-    return *std::find_if(all.begin(), all.end(), isMeant);
 }
 
 void TestSession::activate(char const* name) const
@@ -197,13 +193,6 @@ QLineEdit* TestSession::enterField(QString const& name) const
     widget(name)->setFocus(Qt::TabFocusReason);
     QCoreApplication::processEvents();
     return field(name);
-}
-
-/// As an assistive program chooses it, which has its answer before the command runs.
-void TestSession::chooseCommand(char const* item) const
-{
-    menuItem(item)->trigger();
-    QCoreApplication::processEvents();
 }
 
 void TestSession::paste(QString const& text) const
@@ -231,19 +220,53 @@ void TestSession::type(QString const& name, QString const& text, char const* in)
     QTest::keyClicks(widget(name, in), QString(text).replace(u'\n', u'\r'));
 }
 
-void TestSession::enterScores(QString const& points, QStringList const& missed) const
-{
-    type("total", points);
-    for (QString const& score : missed) {
-        type("missed", score + u'\n');
-    }
-}
-
 void TestSession::setFields(QString const& fields) const
 {
     for (auto const& [name, text] : NamesAndTexts(fields)) {
         WriteByProgram(widget(name), text);
     }
+}
+
+void TestSession::enterScores(QString const& points, QStringList const& missed) const
+{
+    play("total=" + points + "; missed=" + missed.join(u" Return; missed=") + " Return");
+}
+
+void TestSession::play(QString const& acts) const
+{
+    QList<QAction*> const items = menuItems();
+    for (QString const& act : acts.split(u"; "_s)) {
+        QString const word = act.section(u' ', 0, 0), rest = act.section(u' ', 1);
+        auto const command = std::find_if(items.begin(), items.end(),
+                                          [&](QAction const* item) { return item->objectName() == act; });
+        if (word == "write"_L1) {
+            setFields(rest);
+        } else if (word == "focus"_L1) {
+            enterField(rest);
+        } else if (word == "key"_L1) {
+            QKeyCombination const key = QKeySequence(rest)[0];
+            QTest::keyClick(QApplication::focusWidget(), key.key(), key.keyboardModifiers());
+        } else if (word == "keys"_L1) {
+            QTest::keyClicks(QApplication::focusWidget(), rest);
+        } else if (word == "paste"_L1) {
+            paste(rest);
+        } else if (act.contains(u'=')) {
+            type(act.section(u'=', 0, 0), act.section(u'=', 1).replace(u" Return"_s, u"\n"_s));
+        } else if (command != items.end()) {
+            (*command)->trigger();
+            QCoreApplication::processEvents(); // without a key or click it runs a moment later
+        } else {
+            click(act);
+        }
+    }
+}
+
+void CheckScenario()
+{
+    QFETCH(Scenario const*, row);
+    TestSession const session(row->boxes);
+    session.play(row->acts);
+    session.expectFields(row->fields);
 }
 
 void SendInputMethod(QLineEdit* field, char const* commit, char const* composing)

@@ -19,18 +19,19 @@ inline constexpr char const* kTooManyMissed =
 inline constexpr char const* kScaleRepaired =
     "An attempt was made to fix the grading scale. You should check "
     "these modifications before saving the settings.";
-
 inline constexpr char const* kTallyFields = "agrade bgrade cgrade dgrade fgrade";
 inline constexpr char const* kHistoryLists = "ListBox1 ListBox2 ListBox3 ListBox4 ListBox5";
 
-/// The 24 scale fields in their order.
-inline constexpr char const* kScaleFieldNames = "aplusmax aplusmin amax amin aminusmax aminusmin "
-                                                "bplusmax bplusmin bmax bmin bminusmax bminusmin "
-                                                "cplusmax cplusmin cmax cmin cminusmax cminusmin "
-                                                "dplusmax dplusmin dmax dmin dminusmax dminusmin";
+/// The 24 scale fields in their order, and their default texts.
+inline constexpr char const* kScaleFieldNames =
+    "aplusmax aplusmin amax amin aminusmax aminusmin bplusmax bplusmin bmax bmin bminusmax bminusmin "
+    "cplusmax cplusmin cmax cmin cminusmax cminusmin dplusmax dplusmin dmax dmin dminusmax dminusmin";
+inline constexpr char const* kDefaultScale =
+    "100 98 97 93 92 90 89 88 87 83 82 80 79 78 77 73 72 70 69 68 67 63 62 60";
 
 /// The program from its start to its end, with every message box and dialog answered by the test. A box that
-/// the test did not expect, or a second one at once, fails it and is answered with No; an expected box that does not come fails it too.
+/// the test did not expect, or a second one at once, fails it and is answered with No; an expected box that
+/// does not come fails it too.
 class TestSession {
     Q_DISABLE_COPY(TestSession)
 
@@ -45,7 +46,6 @@ public:
     ~TestSession();
 
     void expectBox(std::string const& text, int answer = 0) { expectedBoxes_.push_back({text, answer}); }
-    /// Whether all expected boxes have come.
     [[nodiscard]] bool allBoxesSeen() const { return expectedBoxes_.empty(); }
     /// From now on boxes, or dialogs, are the real ones of the desktop.
     static void useRealMessageBoxes();
@@ -62,8 +62,12 @@ public:
     {
         return widget<QLineEdit>(name, in);
     }
+    /// The menus of the window in front, each followed by its items.
+    [[nodiscard]] QList<QAction*> menuItems() const;
+    /// A path in a folder of this session's own.
+    [[nodiscard]] QString pathOf(char const* name) const { return folder_.filePath(QLatin1String(name)); }
 
-    /// The text of a field, a label or a button. A list's rows are separated by ";", its cells by ",".
+    /// The text of a control. A list's rows are separated by ";", its cells by ",".
     [[nodiscard]] QString text(QString const& name, char const* in = "mainscreen") const;
     /// The texts of several controls, separated by "|".
     [[nodiscard]] QString texts(QString const& names, char const* in = "mainscreen") const;
@@ -74,18 +78,15 @@ public:
     /// Fails for each of these controls that is not empty: "percentage ListBox1".
     void expectEmpty(QString const& names, char const* in = "mainscreen", char const* file = __builtin_FILE(),
                      int line = __builtin_LINE()) const;
-
-    /// The menus of the window in front, each followed by its items.
-    [[nodiscard]] QList<QAction*> menuItems() const;
-    [[nodiscard]] QAction* menuItem(char const* name) const;
-    /// A path in a folder of this session's own.
-    [[nodiscard]] QString pathOf(char const* name) const { return folder_.filePath(QLatin1String(name)); }
+    /// Fails for each scale field that differs: "100 99 98" are the first, the others have their default.
+    void expectScale(QString const& numbers, char const* file = __builtin_FILE(),
+                     int line = __builtin_LINE()) const;
 
     /// Brings the window to the front and waits until it is active.
     void activate(char const* name = "mainscreen") const;
-    /// Moves the focus to a field as Tab does; its GotFocus has been raised when this returns.
+    /// Moves the focus to a control as Tab does; its GotFocus has been raised when this returns.
     QLineEdit* enterField(QString const& name) const;
-    void chooseCommand(char const* item) const;
+    void chooseCommand(QString const& item) const { play(item); }
     void paste(QString const& text) const;
     void click(QString const& name, char const* in = "mainscreen") const;
     /// Clicks as the desktop reports it: to the window, which passes it on to what is under the pointer.
@@ -96,6 +97,12 @@ public:
     void enterScores(QString const& points, QStringList const& missed) const;
     /// Writes texts as the program does: "amin=80 amax=97".
     void setFields(QString const& fields) const;
+    /// Carries acts out in their order, separated by "; ":
+    ///   missed=3     types into the field, "missed=3 Return" presses Return then
+    ///   EditUndo     chooses the command of that name, or else clicks the control
+    ///   focus amin   enters the field; key Left, keys 96 and paste 12 act on the focused one
+    ///   write amin=80 amax=97   writes as the program does
+    void play(QString const& acts) const;
 
     std::string openedAddress;                   ///< the last address that was to be opened
     QString fileToChoose;                        ///< the file that the dialogs choose; empty cancels them
@@ -111,6 +118,14 @@ private:
     QTemporaryDir folder_;
 };
 
+/// What a teacher does, the boxes that come, and what the controls hold then.
+struct Scenario {
+    char const* name;
+    char const* acts;
+    std::vector<TestSession::Box> boxes;
+    char const* fields;
+};
+
 /// Adds a row of test data for each row of a table; a row has a name. QFETCH gets a pointer to it.
 template <class Row, std::size_t count>
 void AddRows(Row const (&table)[count])
@@ -121,6 +136,10 @@ void AddRows(Row const (&table)[count])
     }
 }
 
+/// Plays the scenario of the current row.
+void CheckScenario();
+/// Lets the program run once more in this process, after it has ended.
+void StartAgain();
 /// Sends what an input method sends: text to insert, and text still in composition.
 void SendInputMethod(QLineEdit* field, char const* commit, char const* composing = "");
 QByteArray ContentOf(QString const& path);

@@ -36,12 +36,32 @@ std::string Notice(std::string const& above, std::string const& below)
            " must be equal to one.";
 }
 
-/// Presses a key in the field, which brings the question; the answer is No.
-void PressAndDecline(TestSession& session, QLineEdit* field, Qt::Key key)
-{
-    session.expectBox(kQuestion, kNo);
-    QTest::keyClick(field, key);
-}
+// clang-format off
+Scenario const kEdits[] = {
+    {"a key that changes nothing leaves the stored text", "total=40; missed=4 Return; focus bmax; key Left",
+     {{kQuestion, kNo}}, "bmax=87 fileresetfield=87 numstudents=1"},
+    {"the second change stands", "total=40; missed=4 Return; focus bmax; key 6; key 6", {{kQuestion, kNo}, {kQuestion, kNo}},
+     "bmax=876 fileresetfield= numstudents=1"},
+    {"each gain of the focus stores anew", "total=40; missed=4 Return; write bmax=86; focus cmax; focus bmax; key 6",
+     {{kQuestion, kNo}}, "bmax=86"},
+    {"a focus from before the first entry has stored nothing", "write total=40; focus bmax; key Return; key 5",
+     {{kQuestion, kNo}}, "bmax=5 numstudents=1"},
+    {"a stored text below one is not put back", "total=40; missed=4 Return; write dmax=0.9; focus dmax; key 5",
+     {{kQuestion, kNo}}, "dmax=5"},
+    {"nor is an empty one", "total=40; missed=4 Return; write dmax=; focus dmax; key 5", {{kQuestion, kNo}}, "dmax=5"},
+    {"a stored 1 is put back", "total=40; missed=4 Return; write dmax=1; focus dmax; key 5", {{kQuestion, kNo}}, "dmax=1"},
+    {"a key without room asks too", "total=40; missed=4 Return; write amax=100; focus amax; key End; key 5",
+     {{kQuestion, kNo}, {kQuestion, kNo}}, "amax=100"},
+    {"a paste is put back without a question", "total=40; missed=4 Return; focus cmax; paste 12", {},
+     "cmax=77 numstudents=1 fileresetfield="},
+    {"a cut is put back without a question", "total=40; missed=4 Return; focus bmax; EditCut", {}, "bmax=87 numstudents=1"},
+    {"without entries nothing is asked or stored", "focus bmax; keys 6", {}, "bmax=6 fileresetfield="},
+    {"Yes throws the entries away and asks once",
+     "total=40; missed=4 Return; write missed=7 foundaproblem=x; focus aplusmin; keys 96", {{kQuestion, kYes}},
+     "aplusmin=96 total=40 pointstemp=40 missed=7 problem=1 foundaproblem=x numstudents= average= EditField1= percentage= "
+     "lettergrade= lastmissed= correct= agrade= ListBox1= ListBox2= ListBox3= ListBox4= ListBox5= fileresetfield="},
+};
+// clang-format on
 
 } // namespace
 
@@ -60,112 +80,38 @@ private slots:
             session.expectFields("fileresetfield=" + before);
             session.whileBoxIsUp = [&] { session.expectFields(name + u'=' + before); };
             field->deselect();
-            PressAndDecline(session, field, Qt::Key_Backspace);
+            session.expectBox(kQuestion, kNo);
+            QTest::keyClick(field, Qt::Key_Backspace);
             session.expectFields(name + u'=' + before + " fileresetfield= numstudents=1"_L1);
             QVERIFY(field->cursorPosition() == before.size() && !field->hasSelectedText());
         }
     }
 
-    void eachGainOfTheFocusPutsBackOneChange()
-    {
-        TestSession session;
-        session.enterScores("40", {"4"});
-        QLineEdit* const field = session.enterField("bmax");
-        PressAndDecline(session, field, Qt::Key_Left); // changes nothing: the stored text stays
-        session.expectFields("bmax=87 fileresetfield=87");
-        PressAndDecline(session, field, Qt::Key_6);
-        PressAndDecline(session, field, Qt::Key_6);
-        session.expectFields("bmax=876");
-        session.enterField("bminusmax");
-        session.enterField("bmax");
-        PressAndDecline(session, field, Qt::Key_Backspace);
-        session.expectFields("bmax=876");
-    }
-
-    void aFocusFromBeforeTheFirstEntryHasStoredNothing()
-    {
-        TestSession session;
-        session.setFields("total=40");
-        QLineEdit* const field = session.enterField("bmax");
-        QTest::keyClick(field, Qt::Key_Return);
-        PressAndDecline(session, field, Qt::Key_5);
-        session.expectFields("bmax=5 numstudents=1");
-    }
-
-    void aStoredTextBelowOneIsNotPutBack()
-    {
-        TestSession session;
-        session.enterScores("40", {"4"});
-        for (char const* const stored : {"0.9", "-3", "", "word"}) {
-            session.setFields("dmax="_L1 + stored);
-            PressAndDecline(session, session.enterField("dmax"), Qt::Key_5);
-            session.expectFields("dmax=5");
-            session.enterField("cmax");
-        }
-        session.setFields("dmax=1");
-        PressAndDecline(session, session.enterField("dmax"), Qt::Key_5);
-        session.expectFields("dmax=1");
-    }
-
-    void aKeyWithoutRoomAsksToo()
-    {
-        TestSession session;
-        session.enterScores("40", {"4"});
-        session.setFields("amax=100");
-        session.enterField("amax")->deselect();
-        PressAndDecline(session, session.field("amax"), Qt::Key_5);
-        session.expectFields("amax=100");
-    }
-
-    void aChangeWithoutAKeyIsPutBackWithoutAQuestion()
-    {
-        TestSession const session;
-        session.enterScores("40", {"4", "8"});
-        session.enterField("cmax");
-        session.paste("12");
-        session.enterField("bmax");
-        session.chooseCommand("EditCut");
-        session.expectFields("cmax=77 bmax=87 numstudents=2 fileresetfield=");
-    }
-
-    void yesThrowsTheEntriesAwayAndKeepsThePoints()
-    {
-        TestSession session;
-        session.enterScores("40", {"4", "8"});
-        session.setFields("missed=7 foundaproblem=x");
-        session.expectBox(kQuestion, kYes);
-        QTest::keyClicks(session.enterField("aplusmin"), u"96"_s); // one question for the two keys
-        session.expectFields("aplusmin=96 total=40 pointstemp=40 missed=7 problem= foundaproblem=x");
-        session.expectEmpty("fileresetfield numstudents average EditField1 percentage lettergrade lastmissed "
-                            "correct agrade bgrade cgrade dgrade fgrade");
-        session.expectEmpty(kHistoryLists);
-    }
+    void anEditUnderEntriesIsAskedForAndPutBack_data() { AddRows(kEdits); }
+    void anEditUnderEntriesIsAskedForAndPutBack() { CheckScenario(); }
 
     void aBoundaryThatIsOffComesOutInWholeNumbers_data() { AddRows(kBoundaries); }
 
     void aBoundaryThatIsOffComesOutInWholeNumbers()
     {
         QFETCH(Boundary const*, row);
-        TestSession session;
-        auto const enter = [&](QString const& texts, QString const& expected) {
-            QString const fields = row->upper + u"=%1 "_s + row->lower + u"=%2"_s;
-            QString const after = fields.arg(expected.section(u' ', 0, 0), expected.section(u' ', 1));
-            session.setFields(fields.arg(texts.section(u' ', 0, 0), texts.section(u' ', 1)));
-            if (texts != expected) {
+        auto const check = [row](char const* upper, char const* lower, char const* upperAfter,
+                                 char const* lowerAfter) {
+            TestSession session;
+            QString const after = u"%1=%2 %3=%4"_s.arg(row->upper, upperAfter, row->lower, lowerAfter);
+            session.setFields(u"%1=%2 %3=%4"_s.arg(row->upper, upper, row->lower, lower));
+            if (QString(upper) != upperAfter) {
                 session.expectBox(Notice(row->name, row->below));
             }
             session.whileBoxIsUp = [&] { session.expectFields(after); }; // mended before it is reported
-            session.click(row->focus);
-            QCoreApplication::processEvents();
-            QVERIFY(session.allBoxesSeen());
+            session.enterField(row->focus);
             session.expectFields(after);
-            session.enterField("total");
         };
-        enter("50.5 49.5", "50.5 49.5");
-        enter("50.5 49.6", "51 50");
-        enter("50.5 49.4", "51 50");
-        enter("50.5 words", "51 50");
-        enter("6e1 59", "6e1 59"); // an exponent counts here
+        check("50.5", "49.5", "50.5", "49.5");
+        check("50.5", "49.6", "51", "50");
+        check("50.5", "49.4", "51", "50");
+        check("50.5", "words", "51", "50");
+        check("6e1", "59", "6e1", "59"); // an exponent counts here
     }
 
     void aTextIsStoredAfterTheNoticeOfItsBoundary()

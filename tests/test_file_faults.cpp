@@ -11,7 +11,10 @@
 #include <fcntl.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <unistd.h>
+
+using namespace std::string_literals;
 
 namespace {
 
@@ -31,7 +34,7 @@ bool Fails(char const* call)
 
 } // namespace
 
-// In this program the system's functions stand behind these.
+// In this program the system's functions are called through these.
 #define REAL(name) static auto* const real = reinterpret_cast<decltype(&(name))>(dlsym(RTLD_NEXT, #name))
 #define CALL(type, name, parameters, arguments)                                                              \
     extern "C" type name parameters                                                                          \
@@ -39,6 +42,7 @@ bool Fails(char const* call)
         REAL(name);                                                                                          \
         return Fails(#name) ? -1 : real arguments;                                                           \
     }
+CALL(ssize_t, read, (int fd, void* bytes, size_t count), (fd, bytes, count))
 CALL(ssize_t, write, (int fd, void const* bytes, size_t count), (fd, bytes, count))
 CALL(int, fsync, (int fd), (fd))
 CALL(int, fdatasync, (int fd), (fd))
@@ -60,7 +64,7 @@ extern "C" int open64(char const* path, int flags, ...) // NOLINT(cert-dcl50-cpp
 
 namespace {
 
-/// Writes these lines; returns why that failed, or nothing.
+/// Writes a text that ends with a line end. Returns why that failed, or nothing.
 QString Save(QString const& path, QByteArray const& text)
 {
     TextOutputStream stream = FolderItem(path.toStdString()).CreateTextFile();
@@ -75,11 +79,11 @@ bool SaysWhy(QString const& reason)
 
 QStringList Names(QString const& folder)
 {
-    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
 }
 
-/// Saves with a fault of the call of this number. False if there are fewer calls.
-bool FailCall(int number, bool existed, QStringList& told)
+/// Saves while the call of this number fails. False if the save makes fewer calls.
+bool FailCall(int number, bool existed, QStringList& failed)
 {
     QTemporaryDir const folder;
     QString const path = folder.filePath(u"scale"_s);
@@ -95,11 +99,23 @@ bool FailCall(int number, bool existed, QStringList& told)
     if (!isReady || !isRight || !savesAgain) {
         QTest::qFail(qPrintable(u"call %1: %2"_s.arg(number).arg(reason)), __FILE__, __LINE__);
     }
-    if (!reason.isEmpty()) {
-        told += QString::fromLatin1(faultyCall);
-    }
+    failed += reason.isEmpty() ? QString() : QString::fromLatin1(faultyCall);
     return wasReached;
 }
+
+/// What can be chosen in the dialog and is no scale file; the paths are in the session's folder.
+struct NoFile {
+    char const* name;
+    void (*make)(QString const& path);
+} const kNoFiles[] = {
+    {"missing",          [](QString const&) {}                                                             },
+    {"folder",           [](QString const& path) { QDir().mkdir(path); }                                   },
+    {"pipe",             [](QString const& path) { mkfifo(QFile::encodeName(path), 0600); }                },
+    {"endless device",   [](QString const& path) { QFile::link(u"/dev/zero"_s, path); }                    },
+    {"empty device",     [](QString const& path) { QFile::link(u"/dev/null"_s, path); }                    },
+    {"65537 characters", [](QString const& path) { WriteFile(path, QByteArray(65537, '1')); }              },
+    {"300 MB",           [](QString const& path) { WriteFile(path, ""), QFile::resize(path, 300'000'000); }},
+};
 
 } // namespace
 
@@ -113,10 +129,10 @@ private slots:
         for (int const fault : {EIO, ENOSPC, EACCES}) {
             faultNumber = fault;
             for (bool const existed : {false, true}) {
-                QStringList told;
-                for (int number = 1; FailCall(number, existed, told); ++number) {
+                QStringList failed;
+                for (int number = 1; FailCall(number, existed, failed); ++number) {
                 }
-                QVERIFY(told.contains(u"open64"_s) && told.contains(u"write"_s) && told.contains(u"fsync"_s));
+                QVERIFY(failed.contains("open64") && failed.contains("write") && failed.contains("fsync"));
             }
         }
     }
@@ -145,7 +161,7 @@ private slots:
         QVERIFY2(SaysWhy(tooLarge) && SaysWhy(small), qPrintable(tooLarge + u'|' + small));
     }
 
-    void linksPermissionsAndLongNamesAreHandled()
+    void aLinkStaysALinkAndPermissionsStay()
     {
         QTemporaryDir const folder;
         QString const path = folder.filePath(u"scale"_s), link = folder.filePath(u"link"_s);
@@ -154,34 +170,75 @@ private slots:
         QCOMPARE(Save(link, "new\n"), QString());
         QVERIFY(QFileInfo(link).isSymLink() && ContentOf(path) == "new\n");
         QCOMPARE(QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
-        for (int const length : {248, 248, 249, 255, 256}) { // 255 bytes is the longest name of a file
-            QString const longName = folder.filePath(QString(length, u'n'));
-            QString const reason = Save(longName, "text\n");
-            QVERIFY(reason.isEmpty() ? ContentOf(longName) == "text\n" : SaysWhy(reason) && length > 248);
-        }
-        QVERIFY(SaysWhy(Save(folder.path(), "text\n")));
     }
 
-    void aFileThatIsNoScaleIsToldAtOnceAndChangesNothing()
+    void aNameTooLongForATemporaryIsRefusedEachTime()
     {
-        TestSession session;
-        QVERIFY(QDir().mkdir(session.pathOf("folder")));
-        QCOMPARE(mkfifo(QFile::encodeName(session.pathOf("pipe")).constData(), 0600), 0);
-        WriteFile(session.pathOf("65537"), QByteArray(65537, '1'));
-        QVERIFY(QFile(session.pathOf("huge")).open(QIODevice::WriteOnly) &&
-                QFile::resize(session.pathOf("huge"), 300'000'000));
-        for (QString const& path :
-             {session.pathOf("missing"), session.pathOf("folder"), session.pathOf("pipe"),
-              session.pathOf("65537"), session.pathOf("huge"), u"/dev/zero"_s, u"/dev/null"_s}) {
-            session.fileToChoose = path;
-            session.expectBox("The file \"" + QFileInfo(path).fileName().toStdString() +
-                              "\" could not be opened: ");
-            QElapsedTimer timer;
-            timer.start();
-            session.chooseCommand("FileOpen");
-            QVERIFY(timer.elapsed() < 2000); // it does not wait for a pipe or read a device to its end
-            QCOMPARE(session.texts("aplusmax amin dminusmin"), "100|93|60"_L1);
+        QTemporaryDir const folder;
+        for (int const length : {248, 248, 249, 255, 256}) { // 255 bytes is the longest name of a file
+            QString const path = folder.filePath(QString(length, u'n'));
+            QString const reason = Save(path, "text\n");
+            QVERIFY(reason.isEmpty() ? ContentOf(path) == "text\n"
+                                     : length > 248 && reason.contains("too long"));
         }
+    }
+
+    void aFolderAPipeAndADeviceAreNotReplaced()
+    {
+        QTemporaryDir const folder;
+        QString const pipe = folder.filePath("pipe"), device = folder.filePath("device");
+        QCOMPARE(mkfifo(QFile::encodeName(pipe), 0600), 0);
+        static_cast<void>(mknod(QFile::encodeName(device), S_IFCHR | 0600, makedev(1, 3))); // root alone can
+        for (QString const& path : {folder.path(), pipe, device}) {
+            if (QFileInfo::exists(path)) {
+                QCOMPARE(Save(path, "text\n"), "it is not a plain file"_L1);
+                QVERIFY(!QFileInfo(path).isFile());
+            }
+        }
+    }
+
+    void whatIsNoScaleFileIsReportedAtOnceAndChangesNothing_data() { AddRows(kNoFiles); }
+    void whatIsNoScaleFileIsReportedAtOnceAndChangesNothing()
+    {
+        QFETCH(NoFile const*, row);
+        TestSession session;
+        session.fileToChoose = session.pathOf(row->name);
+        row->make(session.fileToChoose);
+        session.setFields("amin=80"); // which a repair would find
+        session.expectBox("The file \""s + row->name + "\" could not be opened: ");
+        QElapsedTimer timer;
+        timer.start();
+        session.chooseCommand("FileOpen");
+        QVERIFY(timer.elapsed() < 2000); // it does not wait for a pipe or read a device to its end
+        QVERIFY(!session.lastBox.ends_with(": ."));
+        session.expectScale("100 98 97 80");
+    }
+
+    void aFaultOfAnyCallOfAReadIsReportedAndChangesNothing()
+    {
+        faultNumber = EIO;
+        QStringList failed;
+        for (int number = 1; callsUntilFault == 0; ++number) {
+            TestSession session;
+            session.fileToChoose = session.pathOf("scale");
+            WriteFile(session.fileToChoose, QByteArray(kDefaultScale).replace(' ', '\n'));
+            session.setFields("amin=80");
+            std::string told;
+            PlatformDoors().messageBox = [&](MessageBoxRequest const& box) {
+                told = box.text;
+                return kNo;
+            };
+            callsUntilFault = number;
+            session.chooseCommand("FileOpen");
+            if (told.empty()) { // the fault was not reached, or did no harm
+                session.expectScale(kDefaultScale);
+            } else {
+                session.expectScale("100 98 97 80");
+                failed += faultyCall;
+            }
+        }
+        callsUntilFault = 0;
+        QVERIFY2(failed.contains("open64") && failed.contains("read"), qPrintable(failed.join(u' ')));
     }
 };
 

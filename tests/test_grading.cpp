@@ -7,68 +7,101 @@ namespace {
 constexpr char const* kQuestion =
     "Gradeloom has found problems with the grading scale which must be fixed to continue. Would you like "
     "Gradeloom to fix them for you?";
-constexpr char const* kResultFields =
-    "percentage lettergrade lastmissed numstudents average EditField1 agrade bgrade cgrade dgrade fgrade "
-    "ListBox1 ListBox2 ListBox3 ListBox4 ListBox5";
-char const* const kNines = "99999999999999999999999999"; // more than an Integer holds
+constexpr char const* kPointsAreFixed =
+    "To change the number of points, you must first reset the current data.";
 
 // clang-format off
-struct Score {
-    char const* name;
-    char const* points;
-    char const* field;
-    char const* typed;
-    char const* notice;   // empty: an entry is made
-    char const* afterwards;
-} const kScores[] = {
-    {"29 % is 28.999999999999996 in doubles", "100",   "missed",  "71",  "",
-     "percentage=29 lettergrade=F lastmissed=71 missed= correct=29 average=28 EditField1=28"},
-    {"a comma of thousands",                  "1,000", "missed",  "105", "",
-     "percentage=89.5 lettergrade=A- lastmissed=105 missed= correct=895 average=89 EditField1=89"},
-    {"just below a half",                     "219",   "missed",  "23",  "",
+Scenario const kScores[] = {
+    {"29 % is 28.999999999999996 in doubles", "total=100; missed=71 Return", {},
+     "percentage=29 lettergrade=F lastmissed=71 missed= correct=29 numstudents=1 average=28 EditField1=28"},
+    {"a comma of thousands", "total=1,000; missed=105 Return", {},
+     "percentage=89.5 lettergrade=A- lastmissed=105 missed= correct=895 numstudents=1 average=89 EditField1=89"},
+    {"just below a half", "total=219; missed=23 Return", {},
      "percentage=89.49772 lettergrade=B+ lastmissed=23 missed= correct=196 average=89 EditField1=89"},
-    {"just below a half, as correct",         "219",   "correct", "196", "",
+    {"just below a half, as correct", "checkcorrect; total=219; correct=196 Return", {},
      "percentage=89.49 lettergrade=B+ lastmissed=23 missed=23 correct= average=89 EditField1=89"},
-    {"more correct than points",              "30",    "correct", "33",  "",
+    {"more correct than points", "checkcorrect; total=30; correct=33 Return", {},
      "percentage=110 lettergrade=A+ lastmissed=-3 missed=-3 correct= average=110 EditField1=110"},
-    {"half a point of the test is dropped",   "37.5",  "missed",  "37",  "",
-     "percentage=0 lettergrade=F lastmissed=37 missed= correct=0 average=0 EditField1=0"},
-    {"nothing typed as missed",               "30",    "missed",  "",    "", "percentage=100 correct=30 missed="},
-    {"nothing typed as correct",              "30",    "correct", "",    "", "percentage=0 missed=30 correct="},
-    {"the highest number of points",          kNines,  "missed",  "0",   "", "percentage=100 correct=9223372036854775808"},
-    {"more missed than whole points",         "37.5",  "missed",  "37.5", kTooManyMissed, "missed="},
-    {"a negative number correct",             "30",    "correct", "-1",   kTooManyMissed, "missed= correct=-1"},
-    {"far too many missed",                   "30",    "missed",  kNines, kTooManyMissed, "missed="},
-    {"no points",                             "",      "missed",  "5",    kNeedsPoints,   "missed=5"},
-    {"negative points",                       "-5",    "missed",  "0",    kNeedsPoints,   "missed=0"},
-    {"no whole point to divide by",           "0.4",   "missed",  "0",    kNeedsPoints,   "missed=0"},
-    {"500 as a test, 0.5 to divide by",       "0.5e3", "correct", "5",    kNeedsPoints,   "missed= correct=5"},
+    {"half a point of the test is dropped", "total=37.5; missed=37 Return", {},
+     "percentage=0 lettergrade=F lastmissed=37 correct=0 total=37.5 pointstemp=37.5"},
+    {"nothing typed as missed", "total=30; missed= Return", {}, "percentage=100 correct=30 missed= lastmissed=0"},
+    {"nothing typed as correct", "checkcorrect; total=30; correct= Return", {}, "percentage=0 missed=30 correct="},
+    {"more points than an Integer holds", "total=99999999999999999999; missed=0 Return", {},
+     "percentage=100 correct=9223372036854775808"},
+    {"more missed than whole points", "total=37.5; missed=37.5 Return", {{kTooManyMissed}},
+     "missed= correct= lastmissed= percentage= numstudents= ListBox1= pointstemp=37.5 problem=1"},
+    {"a negative number correct", "checkcorrect; total=30; correct=-1 Return", {{kTooManyMissed}},
+     "missed= correct=-1 lastmissed= percentage= numstudents= ListBox1="},
+    {"no points", "missed=5 Return", {{kNeedsPoints}}, "missed=5 numstudents= pointstemp= problem=1"},
+    {"negative points", "total=-5; missed=0 Return", {{kNeedsPoints}}, "missed=0 numstudents="},
+    {"no whole point to divide by", "total=0.4; missed=0 Return", {{kNeedsPoints}}, "missed=0 numstudents= percentage="},
+    {"500 as a test, 0.5 to divide by", "checkcorrect; total=0.5e3; correct=5 Return", {{kNeedsPoints}},
+     "missed= correct=5 numstudents="},
+
+    {"Yes has the scale repaired", "write amin=98; total=30; missed=3 Return", {{kQuestion, kYes}, {kScaleRepaired}},
+     "amin=96 numstudents=1 missed="},
+    {"Yes without points", "write amin=98; missed=3 Return", {{kQuestion, kYes}, {kScaleRepaired}, {kNeedsPoints}},
+     "amin=96 numstudents= missed=3"},
+    {"Yes with negative points", "write amin=98; total=-9; missed=3 Return",
+     {{kQuestion, kYes}, {kScaleRepaired}, {kNeedsPoints}}, "amin=96 numstudents= missed=3"},
+    {"Yes with too many missed", "write amin=98; total=30; missed=31 Return",
+     {{kQuestion, kYes}, {kScaleRepaired}, {kTooManyMissed}}, "amin=96 numstudents= missed="},
+    {"No leaves all but the stamps", "write amin=98; total=30; missed=3 Return", {{kQuestion, kNo}},
+     "amin=98 numstudents= missed=3 pointstemp=30 problem=1"},
+    {"the lowest minimum is out of order", "write dminusmin=63; total=30; missed=3 Return",
+     {{kQuestion, kYes}, {kScaleRepaired}}, "dminusmin=61 numstudents=1"},
+    {"equal bounds are in order", "write amin=97; total=30; missed=3 Return", {{kScaleRepaired}},
+     "aminusmax=96 numstudents=1"},
+    {"a gap is in order", "write aminusmax=91; total=30; missed=3 Return", {{kScaleRepaired}},
+     "aminusmax=92 numstudents=1"},
+    {"without points a gap stays", "write aminusmax=91; missed=3 Return", {{kNeedsPoints}}, "aminusmax=91"},
+    {"the top goes to 100 in silence", "write aplusmax=105; total=30; missed=3 Return", {},
+     "aplusmax=100 numstudents=1 foundaproblem="},
+    {"the top is compared as it was typed", "write aplusmax=97; total=30; missed=3 Return", {{kQuestion, kNo}},
+     "aplusmax=100 numstudents="},
 };
 
-struct Press {
-    char const* name;
-    char const* scale;
-    char const* points;
-    char const* missed;
-    std::vector<TestSession::Box> boxes;
-    char const* afterwards;
-} const kPresses[] = {
-    {"Yes",                      "amin=98",       "30",  "3",  {{kQuestion, kYes}, {kScaleRepaired}},
-     "amin=96 numstudents=1 missed="},
-    {"Yes without points",       "amin=98",       "",    "3",  {{kQuestion, kYes}, {kScaleRepaired}, {kNeedsPoints}},
-     "amin=96 numstudents= missed=3"},
-    {"Yes with negative points", "amin=98",       "-30", "3",  {{kQuestion, kYes}, {kScaleRepaired}, {kNeedsPoints}},
-     "amin=96 numstudents= missed=3"},
-    {"Yes with too many missed", "amin=98",       "30",  "31", {{kQuestion, kYes}, {kScaleRepaired}, {kTooManyMissed}},
-     "amin=96 numstudents= missed="},
-    {"No",                       "amin=98",       "30",  "3",  {{kQuestion, kNo}}, "amin=98 numstudents= missed=3"},
-    {"the lowest minimum",       "dminusmin=63",  "30",  "3",  {{kQuestion, kYes}, {kScaleRepaired}},
-     "dminusmin=61 numstudents=1"},
-    {"equal bounds in order",    "amin=97",       "30",  "3",  {{kScaleRepaired}}, "aminusmax=96 numstudents=1"},
-    {"a gap is in order",        "aminusmax=91",  "30",  "3",  {{kScaleRepaired}}, "aminusmax=92 numstudents=1"},
-    {"a gap without points",     "aminusmax=91",  "",    "3",  {{kNeedsPoints}},   "aminusmax=91 numstudents="},
-    {"the top goes to 100",      "aplusmax=105",  "30",  "3",  {},                 "aplusmax=100 numstudents=1"},
-    {"the top as it was typed",  "aplusmax=97",   "30",  "3",  {{kQuestion, kNo}}, "aplusmax=100 numstudents="},
+Scenario const kSessions[] = {
+    {"the history has a row for each entry", "total=30; missed=3 Return; missed=4 Return; missed=4 Return; checkcorrect; "
+     "correct=33 Return; correct=20.375 Return", {},
+     "ListBox1=1,90,%;2,86.666,%;3,86.666,%;4,110,%;5,67.916,% ListBox2=3;4;4;-3;9.625 ListBox3=90;88;87;93;87 "
+     "ListBox4=A-;B;B;A+;D+ ListBox5=90;176;262;372;439 agrade=2 bgrade=2 cgrade= dgrade=1 fgrade="},
+    {"nothing is below a lowest minimum of zero", "write dminusmin=0; total=30; missed=30 Return", {},
+     "lettergrade=D- dgrade=1 fgrade="},
+    {"in a gap the first entry has no letter", "write amin=92.5 aminusmax=91.5; total=100; missed=8 Return", {},
+     "lettergrade= numstudents=1 agrade= bgrade= ListBox4="},
+    {"in a gap an entry has the letter before it",
+     "write amin=92.5 aminusmax=91.5; total=100; missed=8 Return; missed=15 Return; missed=8 Return", {},
+     "lettergrade=B agrade= bgrade=2 ListBox4=;B;B"},
+    {"undo follows letters through a gap", "write amin=92.5 aminusmax=91.5; total=100; missed=8 Return; "
+     "missed=15 Return; missed=8 Return; EditUndo; EditUndo", {}, "lettergrade= numstudents=1 bgrade=0 ListBox4="},
+    {"undo steps back to the record of the entry before",
+     "total=30; missed=3 Return; missed=4 Return; missed=30 Return; write missed=9; EditUndo", {},
+     "numstudents=2 percentage=86.666 lettergrade=B lastmissed=4 average=176 EditField1=88 agrade=1 bgrade=1 cgrade= "
+     "fgrade=0 ListBox1=1,90,%;2,86.666,% ListBox2=3;4 ListBox3=90;88 ListBox4=A-;B ListBox5=90;176 problem= total=30 "
+     "missed=9 correct=0"},
+    {"one entry is left", "total=30; missed=3 Return; missed=4 Return; EditUndo", {},
+     "numstudents=1 percentage=90 lettergrade=A- lastmissed=3 average=90 EditField1=90 problem=1"},
+    {"the first entry is undone by clearing all", "total=30; missed=3 Return; write missed=9; EditUndo", {},
+     "numstudents= percentage= lettergrade= lastmissed= average= EditField1= agrade= ListBox1= ListBox2= ListBox3= "
+     "ListBox4= ListBox5= correct= total=30 pointstemp=30 missed=9 problem=1"},
+    {"undo at the start does nothing", "correct=5; EditUndo", {}, "correct=5 problem="},
+    {"undo after a refusal empties the number correct", "correct=5; missed=7 Return; EditUndo", {{kNeedsPoints}},
+     "correct= missed=7 problem=1"},
+    {"after a refusal one undo does nothing", "total=30; missed=3 Return; missed=31 Return; EditUndo", {{kTooManyMissed}},
+     "numstudents=1 percentage=90 lettergrade=A- problem=1"},
+    {"after a refusal the second undo clears", "total=30; missed=3 Return; missed=31 Return; EditUndo; EditUndo",
+     {{kTooManyMissed}}, "numstudents= percentage= ListBox1="},
+    {"an entry after an undo", "total=30; missed=3 Return; missed=4 Return; EditUndo; missed=6 Return", {},
+     "numstudents=2 percentage=80 lettergrade=B- average=170 EditField1=85 problem="},
+    {"an entry after all were undone", "total=30; missed=3 Return; EditUndo; EditUndo; missed=6 Return", {},
+     "numstudents=1 average=80 EditField1=80 problem=1"},
+    {"undo shows the percentage of the history", "checkcorrect; total=30; correct=25 Return; correct=0 Return; EditUndo",
+     {}, "percentage=83.333 lastmissed=5 missed=30 correct="},
+    {"the points are put back under entries", "total=37.5; missed=3 Return; focus total; key 7", {{kPointsAreFixed}},
+     "total=37.5 numstudents=1 ListBox1=1,91.891,%"},
+    {"the same points are no change", "total=37.5; missed=3 Return; focus total; paste 37.5", {}, "total=37.5"},
+    {"after a reset the points are free", "total=37.5; missed=3 Return; FileReset; total=40", {}, "total=40"},
 };
 
 struct Band {
@@ -91,44 +124,12 @@ class Grading final : public QObject {
 
 private slots:
     void aScoreBecomesAnEntryOrIsRefused_data() { AddRows(kScores); }
+    void aScoreBecomesAnEntryOrIsRefused() { CheckScenario(); }
 
-    void aScoreBecomesAnEntryOrIsRefused()
-    {
-        QFETCH(Score const*, row);
-        bool const isEntry = *row->notice == '\0';
-        TestSession session;
-        if (!isEntry) {
-            session.expectBox(row->notice);
-        }
-        if (row->field == "correct"_L1) {
-            session.click("checkcorrect");
-        }
-        session.type("total", row->points);
-        session.type(row->field, row->typed + u"\n"_s);
-        session.expectFields(row->afterwards);
-        session.expectFields("problem=1 total="_L1 + row->points + " pointstemp="_L1 + row->points);
-        session.expectFields(isEntry ? "numstudents=1" : "numstudents=");
-        if (!isEntry) {
-            session.expectEmpty(kResultFields);
-        }
-    }
-
-    void aScaleOutOfOrderBringsOneQuestion_data() { AddRows(kPresses); }
-
-    void aScaleOutOfOrderBringsOneQuestion()
-    {
-        QFETCH(Press const*, row);
-        TestSession session(row->boxes);
-        session.setFields(row->scale);
-        session.type("total", row->points);
-        session.whileBoxIsUp = [&] { session.expectFields("problem=1 pointstemp="_L1 + row->points); };
-        session.type("missed", row->missed + u"\n"_s);
-        session.expectFields(row->afterwards);
-        session.expectFields("problem=1 pointstemp="_L1 + row->points);
-    }
+    void entriesAreListedAndUndone_data() { AddRows(kSessions); }
+    void entriesAreListedAndUndone() { CheckScenario(); }
 
     void everyLetterHoldsFromItsMinimumToItsMaximum_data() { AddRows(kBands); }
-
     void everyLetterHoldsFromItsMinimumToItsMaximum()
     {
         QFETCH(Band const*, row);
@@ -143,169 +144,45 @@ private slots:
         session.expectEmpty(QString(kTallyFields).remove(QLatin1String(row->tally)).simplified());
     }
 
-    void noPercentageIsBelowALowestMinimumOfZero()
+    void theStampsAreSetBeforeTheQuestionAndThePointsArePutBackAfterTheNotice()
     {
-        TestSession const session;
-        session.setFields("dminusmin=0");
-        session.enterScores("30", {"30"});
-        session.expectFields("lettergrade=D- dgrade=1 fgrade=");
-    }
-
-    void aPercentageInAGapKeepsTheLetterBefore()
-    {
-        TestSession const session;
-        session.setFields("amin=92.5 aminusmax=91.5"); // 92 is in no band
-        session.enterScores("100", {"8"});
-        session.expectFields("lettergrade= numstudents=1 agrade= ListBox4=");
-        session.type("missed", "15\n");
-        session.type("missed", "8\n");
-        session.expectFields("lettergrade=B agrade= bgrade=2 ListBox4=;B;B");
-        session.chooseCommand("EditUndo");
-        session.chooseCommand("EditUndo");
-        session.expectFields("lettergrade= numstudents=1 bgrade=0 ListBox4=");
-    }
-
-    void theHistoryHoldsOneRowForEachEntry()
-    {
-        TestSession const session;
-        session.enterScores("30", {"3", "4", "4"});
-        session.click("checkcorrect");
-        session.type("correct", "33\n");
-        session.type("correct", "20.375\n");
-        session.expectFields("ListBox1=1,90,%;2,86.666,%;3,86.666,%;4,110,%;5,67.916,% "
-                             "ListBox2=3;4;4;-3;9.625 ListBox4=A-;B;B;A+;D+ "
-                             "ListBox3=90;88;87;93;87 ListBox5=90;176;262;372;439"); // fractions dropped
-        session.expectFields("agrade=2 bgrade=2 cgrade= dgrade=1 fgrade=");
+        TestSession session({
+            {kQuestion, kNo},
+            {kPointsAreFixed        }
+        });
+        session.setFields("amin=98 total=30");
+        session.whileBoxIsUp = [&] { session.expectFields("problem=1 pointstemp=30"); };
+        session.form().PushButton1_Action();
+        session.whileBoxIsUp = [&] { session.expectFields("total=7"); };
+        session.play("PushButton3; missed=3 Return; focus total; key 7");
     }
 
     void theLastEntryIsInSight()
     {
         TestSession const session;
-        session.enterScores("30", QStringList(20, "3"));
+        session.play("total=30" + u"; missed=3 Return"_s.repeated(20));
         QScrollBar const* const bar = session.widget<QTableView>("ListBox1")->verticalScrollBar();
         QVERIFY(bar->maximum() > 0);
         QCOMPARE(bar->value(), bar->maximum());
-        session.chooseCommand("EditUndo");
+        session.play("EditUndo");
         QCOMPARE(bar->value(), bar->maximum());
-    }
-
-    void undoStepsBackToTheRecordOfTheEntryBefore()
-    {
-        TestSession const session;
-        session.enterScores("30", {"3", "4", "30"});
-        session.setFields("missed=9");
-        session.chooseCommand("EditUndo");
-        session.expectFields(
-            "numstudents=2 percentage=86.666 lettergrade=B lastmissed=4 average=176 EditField1=88");
-        session.expectFields(
-            "problem= agrade=1 bgrade=1 cgrade= dgrade= fgrade=0 total=30 missed=9 correct=0");
-        session.expectFields(
-            "ListBox1=1,90,%;2,86.666,% ListBox2=3;4 ListBox3=90;88 ListBox4=A-;B ListBox5=90;176");
-        session.chooseCommand("EditUndo");
-        session.expectFields("numstudents=1 percentage=90 lettergrade=A- lastmissed=3 average=90 problem=1");
-    }
-
-    void theFirstEntryIsUndoneByClearingTheResults()
-    {
-        TestSession const session;
-        session.enterScores("30", {"3"});
-        session.setFields("missed=9");
-        session.chooseCommand("EditUndo");
-        session.expectEmpty(kResultFields);
-        session.expectFields("total=30 pointstemp=30 missed=9 correct= problem=1");
-        session.chooseCommand("EditUndo"); // nothing is left
-        session.expectFields("total=30 pointstemp=30 missed=9 problem=1 numstudents=");
-    }
-
-    void undoWithoutEntriesEmptiesTheNumberCorrectOnlyAfterARefusal()
-    {
-        TestSession session;
-        session.type("correct", "5");
-        session.chooseCommand("EditUndo");
-        session.expectFields("correct=5 problem=");
-        session.expectBox(kNeedsPoints);
-        session.type("missed", "7\n");
-        session.chooseCommand("EditUndo");
-        session.expectFields("correct= missed=7 problem=1");
-    }
-
-    void afterARefusalTheFirstEntryTakesTwoUndos()
-    {
-        TestSession const session({{kTooManyMissed}});
-        session.enterScores("30", {"3", "31"});
-        session.expectFields("problem=");
-        session.chooseCommand("EditUndo");
-        session.expectFields("numstudents=1 percentage=90 lettergrade=A- problem=1");
-        session.chooseCommand("EditUndo");
-        session.expectEmpty(kResultFields);
-    }
-
-    void aNewEntryAfterAnUndoIsUndoneInItsTurn()
-    {
-        TestSession const session;
-        session.enterScores("30", {"3", "4"});
-        session.chooseCommand("EditUndo");
-        session.type("missed", "6\n");
-        session.expectFields("numstudents=2 percentage=80 lettergrade=B- average=170 EditField1=85 problem=");
-        session.chooseCommand("EditUndo");
-        session.chooseCommand("EditUndo");
-        session.type("missed", "6\n");
-        session.expectFields("numstudents=1 average=80 EditField1=80 problem=1");
-    }
-
-    void undoShowsThePercentageAsTheHistoryHasIt()
-    {
-        TestSession const session;
-        session.click("checkcorrect");
-        session.type("total", "30");
-        session.type("correct", "25\n");
-        session.expectFields("percentage=83.33");
-        session.type("correct", "0\n");
-        session.chooseCommand("EditUndo");
-        session.expectFields("percentage=83.333 lastmissed=5 missed=30 correct=");
-    }
-
-    void bothResetsEmptyTheSession_data()
-    {
-        QTest::addColumn<bool>("byMenu");
-        QTest::newRow("button") << false;
-        QTest::newRow("menu") << true;
     }
 
     void bothResetsEmptyTheSession()
     {
-        QFETCH(bool, byMenu);
-        TestSession const session;
-        session.enterScores("30", {"3", "15"});
-        session.setFields("missed=31 problem=x fileresetfield=5 foundaproblem=1 amin=80");
-        for (int i = 0; i < 2; ++i) { // the second time without entries
-            byMenu ? session.chooseCommand("FileReset") : session.click("BevelButton1");
-            session.expectEmpty(kResultFields);
-            session.expectFields(byMenu ? "total= correct= pointstemp=30" : "total= correct= pointstemp=");
-            session.expectFields("missed=31 problem=x fileresetfield=5 foundaproblem=1 amin=80");
+        for (QString const& reset : {u"BevelButton1"_s, u"FileReset"_s}) {
+            TestSession const session;
+            session.play("total=30; missed=3 Return; missed=15 Return");
+            session.setFields("missed=31 problem=x fileresetfield=5 foundaproblem=1 amin=80");
+            for (int i = 0; i < 2; ++i) { // the second time without entries
+                session.play(reset);
+                session.expectEmpty(
+                    "total correct percentage lettergrade lastmissed numstudents average EditField1");
+                session.expectEmpty(QString(kTallyFields) + u' ' + kHistoryLists);
+                session.expectFields(reset == "FileReset"_L1 ? "pointstemp=30" : "pointstemp=");
+                session.expectFields("missed=31 problem=x fileresetfield=5 foundaproblem=1 amin=80");
+            }
         }
-    }
-
-    void underEntriesTheNumberOfPointsIsPutBack()
-    {
-        TestSession session;
-        session.enterScores("37.5", {"3"});
-        session.enterField("total");
-        session.expectBox("To change the number of points, you must first reset the current data.");
-        session.whileBoxIsUp = [&] { session.expectFields("total=7"); }; // the notice comes first
-        QTest::keyClick(session.widget("total"), Qt::Key_7);
-        session.expectFields("total=37.5 numstudents=1 ListBox1=1,91.891,%");
-    }
-
-    void withoutEntriesTheNumberOfPointsIsFree()
-    {
-        TestSession const session;
-        session.enterScores("37.5", {"3"});
-        session.field("total")->selectAll();
-        session.paste("37.5"); // the same text is no change
-        session.chooseCommand("FileReset");
-        session.type("total", "40");
-        session.expectFields("total=40");
     }
 };
 

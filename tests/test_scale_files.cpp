@@ -4,27 +4,68 @@
 #include "platform/files.h"
 
 #include <QDir>
+#include <QStandardPaths>
+
+using namespace std::string_literals;
 
 namespace {
 
-constexpr char const* kTooLow = "In order to save this grading scale, the minimum for a D- must be greater";
-QByteArray const kDefaultFile =
-    "100\n98\n97\n93\n92\n90\n89\n88\n87\n83\n82\n80\n79\n78\n77\n73\n72\n70\n69\n68\n67\n63\n62\n60\n";
+constexpr char const* kTooLow =
+    "In order to save this grading scale, the minimum for a D- must be greater than or "
+    "equal to zero.";
+QByteArray const kDefaultFile = QByteArray(kDefaultScale).replace(' ', '\n') + '\n';
 
-struct {
-    char const* written; // into the default scale
+// clang-format off
+struct Save {
+    char const* name;
+    char const* typed;            // into the default scale
     std::vector<TestSession::Box> notices;
-    QLatin1String after; // the lowest minimum and the mark of a repair
-    bool saved;
+    char const* afterwards;
+    bool isSaved;
 } const kSaves[] = {
-    {"foundaproblem=",  {},                            "60|"_L1,  true },
-    {"foundaproblem=1", {},                            "60|"_L1,  false}, // an earlier repair
-    {"amin=80",         {{kScaleRepaired}},            "60|"_L1,  false},
-    {"dminusmin=59.6",  {},                            "60|"_L1,  true },
-    {"dminusmin=-0.4",  {},                            "0|"_L1,   true }, // not below zero
-    {"dminusmin=-0.5",  {{kTooLow}},                   "-1|"_L1,  false},
-    {"aplusmin=10",     {{kScaleRepaired}, {kTooLow}}, "-12|"_L1, false},
+    {"a sound scale",             "foundaproblem=",  {},                        "dminusmin=60",  true },
+    {"an earlier repair",         "foundaproblem=1", {},                        "dminusmin=60",  false},
+    {"a repair by this press",    "amin=80",         {{kScaleRepaired}},        "dminusmin=60",  false},
+    {"a fraction is rounded",     "dminusmin=59.6",  {},                        "dminusmin=60",  true },
+    {"an exponent counts",        "dminusmin=6e1",   {},                        "dminusmin=60",  true },
+    {"rounded it is not below 0", "dminusmin=-0.4",  {},                        "dminusmin=0",   true },
+    {"rounded it is below 0",     "dminusmin=-0.5",  {{kTooLow}},               "dminusmin=-1",  false},
+    {"the repair ends below 0",   "aplusmin=10",     {{kScaleRepaired}, {kTooLow}}, "dminusmin=-12", false},
 };
+
+QByteArray const kScaleFile = QByteArray(kDefaultFile).replace("98\n97", "96\n95").replace("62\n60", "62\n61");
+
+struct Form {
+    char const* name;
+    QByteArray bytes;
+} const kForms[] = {
+    {"LF", kScaleFile},
+    {"CR LF", QByteArray(kScaleFile).replace("\n", "\r\n")},
+    {"CR", QByteArray(kScaleFile).replace("\n", "\r")},
+    {"a byte order mark", "\xEF\xBB\xBF" + kScaleFile},
+    {"no line end at the end", kScaleFile.chopped(1)},
+    {"more than 24 lines", kScaleFile + "12\n"},
+    {"a long rest", kScaleFile + QByteArray(1'000'000, '\n')},
+    {"a CR LF that two reads share", "100" + QByteArray(4096 - 4, ' ') + "\r\n" + kScaleFile.mid(4)}, // 4096 a read
+    {"a line of just 64 KiB", "100" + QByteArray(65536 - 3, ' ') + '\n' + kScaleFile.mid(4)},
+};
+
+struct Start {
+    char const* name;
+    QByteArray bytes; // of the Preferences; the scale is the default one afterwards
+    std::vector<TestSession::Box> boxes;
+    char const* mark;
+} const kStarts[] = {
+    {"a top that is off is set in silence", QByteArray(kDefaultFile).replace("100", "95"), {}, ""},
+    {"an unsound scale is repaired", QByteArray(kDefaultFile).replace("93\n92", "93\n91"), {{kScaleRepaired}}, "1"},
+    {"a file that can't be read is ignored", QByteArray(65537, '1'), {}, ""},
+};
+
+struct NoScale {
+    char const* name;
+    QByteArray bytes;
+} const kNoScales[] = {{"empty", ""}, {"words", "a\nfew\nwords\n"}, {"zero bytes", "1\0000\0\n\0"_ba}};
+// clang-format on
 
 QString Preferences()
 {
@@ -33,14 +74,20 @@ QString Preferences()
 
 } // namespace
 
-/// The standing scale, scales under a name, and the gate that both saves pass.
+/// The standing scale, scales under a name, and the checks that both saves make.
 class ScaleFiles final : public QObject {
     Q_OBJECT
 
 private slots:
     void init() { QFile::remove(Preferences()); }
 
-    void aSavedScaleStandsAtTheNextStartAndAnUnsoundOneIsRepaired()
+    void thePreferencesAreInTheProgramsOwnFolderOfSettings()
+    {
+        QString const settings = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+        QCOMPARE(Preferences(), settings + "/gradeloom/Preferences"_L1);
+    }
+
+    void aSavedScaleIsThereAtTheNextStart()
     {
         QDir(QFileInfo(Preferences()).path()).removeRecursively(); // the first save makes the folder
         {
@@ -49,104 +96,146 @@ private slots:
             session.click("PushButton4");
         }
         QCOMPARE(ContentOf(Preferences()), QByteArray(kDefaultFile).replace("98\n97", "95.5\n94.5"));
-        QCOMPARE(TestSession().texts("aplusmin amax dminusmin foundaproblem"), "95.5|94.5|60|"_L1);
-        WriteFile(Preferences(),
-                  QByteArray(kDefaultFile).replace("100", "95")); // only the top is off: no word
-        QCOMPARE(TestSession().texts("aplusmax aplusmin foundaproblem"), "100|98|"_L1);
-        WriteFile(Preferences(), QByteArray(kDefaultFile).replace("93\n92", "93\n91"));
-        QCOMPARE(TestSession({{kScaleRepaired}}).texts("aminusmax foundaproblem"), "92|1"_L1);
+        TestSession const session;
+        session.expectScale("100 95.5 94.5");
+        session.expectFields("foundaproblem=");
     }
 
-    void theGateRepairsRoundsAndRefuses()
+    void whatIsWrongAtTheStartIsSetRepairedOrIgnored_data() { AddRows(kStarts); }
+    void whatIsWrongAtTheStartIsSetRepairedOrIgnored()
     {
-        for (auto const& [written, notices, after, saved] : kSaves) {
-            QFile::remove(Preferences());
-            TestSession session;
-            session.fileToChoose = session.pathOf("scale");
-            for (char const* const button : {"PushButton4", "PushButton2"}) {
-                session.click("PushButton3");
-                session.setFields(written);
-                for (TestSession::Box const& notice : notices) {
-                    session.expectBox(notice.text);
-                }
-                session.click(button);
-                QVERIFY(session.allBoxesSeen());
-                QCOMPARE(session.texts("dminusmin foundaproblem"), after);
+        QFETCH(Start const*, row);
+        WriteFile(Preferences(), row->bytes);
+        TestSession const session(row->boxes);
+        session.expectScale(kDefaultScale);
+        session.expectFields("foundaproblem="_L1 + row->mark);
+    }
+
+    void aSaveRepairsRoundsAndMayRefuse_data() { AddRows(kSaves); }
+    void aSaveRepairsRoundsAndMayRefuse()
+    {
+        QFETCH(Save const*, row);
+        TestSession session;
+        session.fileToChoose = session.pathOf("scale");
+        for (char const* const button : {"PushButton4", "PushButton2"}) {
+            session.click("PushButton3");
+            session.setFields(row->typed);
+            for (TestSession::Box const& notice : row->notices) {
+                session.expectBox(notice.text);
             }
-            QVERIFY2(QFile::exists(Preferences()) == saved && QFile::exists(session.fileToChoose) == saved,
-                     written);
-            if (after == "60|"_L1) {
-                session.click("PushButton4"); // after a refusal the next press finds nothing to stop it
-                QVERIFY(QFile::exists(Preferences()));
-            }
+            session.whileBoxIsUp = [&] { // the rounded number is there when the notice comes
+                session.expectFields(session.lastBox == kTooLow ? row->afterwards : "");
+            };
+            session.click(button);
+            QVERIFY(session.allBoxesSeen());
+            session.expectFields(row->afterwards);
+            session.expectFields("foundaproblem=");
         }
+        QCOMPARE(QFile::exists(Preferences()), row->isSaved);
+        QCOMPARE(QFile::exists(session.fileToChoose), row->isSaved);
+    }
+
+    void afterARefusedSaveTheNextOneSaves()
+    {
+        TestSession const session({{kScaleRepaired}});
+        session.setFields("amin=80");
+        session.click("PushButton4");
+        session.click("PushButton4");
+        QVERIFY(ContentOf(Preferences()).startsWith("100\n98\n97\n80\n79\n"));
     }
 
     void aNamedScaleComesBackAsItWasWritten()
     {
         TestSession session;
-        session.enterScores("40", {"4"}); // a scale can be saved while entries stand
+        session.enterScores("40", {"4"}); // a scale can be saved under entries, but not opened
+        session.expectBox(
+            "In order to change the current grading scale, you must first reset the data that has already "
+            "been entered.");
+        session.chooseCommand("FileOpen");
+        QVERIFY(session.dialogs.empty());
         session.setFields("aplusmin=92.5 amax=91.5 amin=91 aminusmax=90");
         session.form().aplusmax().Text(" 100 points");
-        session.click("PushButton2"); // cancelled
-        FileDialogRequest const request = session.dialogs.at(0);
-        QVERIFY(request.saving && request.suggestedName == "AlternativeGradingScale" &&
-                QDir(QString::fromStdString(request.folder)).exists());
         session.fileToChoose = session.pathOf("mine");
-        session.click("PushButton2");
-        session.expectBox("In order to change the current grading scale, you must first reset the data");
-        session.chooseCommand("FileOpen"); // with entries: no dialog
-        QCOMPARE(session.dialogs.size(), std::size_t(2));
-        session.chooseCommand("FileReset");
-        session.click("PushButton3");
-        session.chooseCommand("FileOpen");
-        QCOMPARE(session.texts("aplusmax aplusmin amax amin foundaproblem"), " 100 points|92.5|91.5|91|"_L1);
-        QVERIFY(!session.dialogs.back().saving && session.dialogs.back().title == "Select a Grading Scale");
+        session.play("PushButton2; FileReset; PushButton3; FileOpen");
+        session.expectFields(
+            "aplusmax= 100 points aplusmin=92.5 amax=91.5 amin=91 aminusmax=90 aminusmin=90");
     }
 
-    void everyFormOfAScaleFileIsReadAndWordsAreRepaired()
+    void theDialogsAskForWhatTheyAreFor()
     {
-        QByteArray const seen =
-            QByteArray(kDefaultFile).replace("98\n97", "96\n95").replace("62\n60", "62\n61");
+        TestSession const session;
+        session.play("PushButton2; FileOpen"); // both cancelled
+        QCOMPARE(session.dialogs.size(), std::size_t(2));
+        FileDialogRequest const &save = session.dialogs[0], &open = session.dialogs[1];
+        QVERIFY(save.saving && save.title == "Save your file" && save.prompt == "Enter a filename");
+        QVERIFY(save.suggestedName == "AlternativeGradingScale" && !save.folder.empty());
+        QVERIFY(!open.saving && open.title == "Select a Grading Scale" && QDir(save.folder.c_str()).exists());
+        QCOMPARE(open.folder, save.folder);
+    }
+
+    void everyFormOfAScaleFileIsRead_data() { AddRows(kForms); }
+    void everyFormOfAScaleFileIsRead()
+    {
+        QFETCH(Form const*, row);
         TestSession session;
         session.fileToChoose = session.pathOf("scale");
-        for (QByteArray const& bytes :
-             {seen, QByteArray(seen).replace("\n", "\r\n"), QByteArray(seen).replace("\n", "\r"),
-              "\xEF\xBB\xBF" + seen, seen.chopped(1), seen + "12\n", seen + QByteArray(1'000'000, '\n')}) {
-            session.click("PushButton3");
-            WriteFile(session.fileToChoose, bytes);
-            session.chooseCommand("FileOpen");
-            QCOMPARE(session.texts("aplusmax aplusmin dminusmin"), "100|96|61"_L1);
-        }
-        WriteFile(session.fileToChoose, QByteArray(seen).replace("96", "96\0\xFF"_ba));
+        WriteFile(session.fileToChoose, row->bytes);
         session.chooseCommand("FileOpen");
-        QCOMPARE(session.texts("aplusmin"), u"96\0\xFFFD"_s);
-        for (QByteArray const& bytes : {""_ba, "a\nfew\nwords\n"_ba, "1\0000\0\n\0"_ba}) {
-            WriteFile(session.fileToChoose, bytes);
-            session.expectBox(kScaleRepaired);
-            session.chooseCommand("FileOpen");
-            QCOMPARE(session.texts("aplusmax foundaproblem"), "100|"_L1);
-            session.expectBox(kTooLow);
-            session.click("PushButton4");
-        }
+        QCOMPARE(session.text("aplusmax").trimmed(), "100"_L1);
+        session.setFields("aplusmax=100");
+        session.expectScale("100 96 95 93 92 90 89 88 87 83 82 80 79 78 77 73 72 70 69 68 67 63 62 61");
+    }
+
+    void onlyTheFirstLineLosesItsByteOrderMark()
+    {
+        QTemporaryDir const folder;
+        WriteFile(folder.filePath("marks"), "\xEF\xBB\xBF"
+                                            "98\n\xEF\xBB\xBF\xEF\xBB\xBF"
+                                            "97\n93\0\xFF"_ba);
+        std::string fault;
+        auto const stream = FolderItem(folder.filePath("marks").toStdString()).OpenAsTextFile(fault);
+        QCOMPARE(stream->ReadLine(), "98"s);
+        QVERIFY(stream->ReadLine() != "97");
+        QCOMPARE(stream->ReadLine(), "93\0\xEF\xBF\xBD"s);              // an invalid byte is replaced
+        QVERIFY(stream->ReadLine().empty() && stream->Fault().empty()); // past the end
+    }
+
+    void aFileOfAnythingIsRepairedAndNotSaved_data() { AddRows(kNoScales); }
+    void aFileOfAnythingIsRepairedAndNotSaved()
+    {
+        QFETCH(NoScale const*, row);
+        TestSession session;
+        session.fileToChoose = session.pathOf("scale");
+        WriteFile(session.fileToChoose, row->bytes);
+        session.expectBox(kScaleRepaired);
+        session.chooseCommand("FileOpen");
+        session.expectFields("aplusmax=100 foundaproblem=");
+        session.expectBox(kTooLow);
+        session.click("PushButton4");
         QVERIFY(!QFile::exists(Preferences()));
     }
 
-    void aFailedSaveIsToldAndTheNextOneWorks()
+    void aFailedSaveIsReportedAndTheNextOneWorks()
     {
         TestSession session;
         session.enterScores("40", {"4"});
         session.setFields("dminusmin=59.6");
         session.fileToChoose = session.pathOf("no/such/folder/scale");
-        session.expectBox("The file \"scale\" could not be saved: No such file or directory.");
+        session.expectBox("The file \"scale\" could not be saved: ");
         session.click("PushButton2");
-        QCOMPARE(session.texts("dminusmin numstudents foundaproblem"), "60|1|"_L1);
+        QVERIFY(session.lastBox.size() > 50); // it says why
+        session.expectFields("dminusmin=60 numstudents=1 foundaproblem=");
         session.fileToChoose = session.pathOf("scale");
         session.click("PushButton2");
         QCOMPARE(ContentOf(session.fileToChoose), kDefaultFile);
-        QVERIFY(QDir().mkpath(Preferences())); // a folder stands in the way of the standing scale
-        session.expectBox("The file \"Preferences\" could not be saved: ");
+    }
+
+    void aFolderInThePlaceOfThePreferencesIsReported()
+    {
+        TestSession const session({{"The file \"Preferences\" could not be saved: it is not a plain file."}});
+        QVERIFY(QDir().mkpath(Preferences()));
         session.click("PushButton4");
+        QVERIFY(QDir().rmdir(Preferences()));
     }
 
     void aNoticeEndsWithOneFullStopWhateverTheSystemSays()
