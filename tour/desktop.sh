@@ -82,7 +82,7 @@ start_display() {
     await "a display" test -s "$home/display"
     DISPLAY=:$(<"$home/display")
     export DISPLAY
-    on_desktop openbox --sm-disable >build/tour/window-manager.log 2>&1 &
+    on_desktop openbox --sm-disable --config-file "$PWD/tour/openbox.xml" >build/tour/window-manager.log 2>&1 &
     started["window manager"]=$!
     # Without a window manager every key would be lost in silence.
     await "a window manager" has_window_manager
