@@ -1,7 +1,7 @@
 # shellcheck shell=bash disable=SC2034,SC2154
 # A desktop of the tour's own: a display, a window manager, and an empty home that is deleted at the end.
 
-declare -A started=() # the numbers of the processes "display", "window manager" and "program"
+declare -A started=() # the numbers of the processes that run, by what they are
 part_start=0 # the second in which this part of the tour began
 home=
 preferences= # the scale file that is read at the start
@@ -38,7 +38,7 @@ await() {
 
 leave_desktop() {
     local process
-    for process in program "window manager" display; do
+    for process in program "window manager" display "second program" "second display"; do
         [[ -n ${started[$process]:-} ]] || continue
         kill "${started[$process]}" 2>/dev/null || true
         wait "${started[$process]}" 2>/dev/null || true
