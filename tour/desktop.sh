@@ -1,8 +1,10 @@
 # shellcheck shell=bash disable=SC2034,SC2154
 # A desktop of the tour's own: a display, a window manager, and an empty home that is deleted at the end.
 
-declare -A started=() # the numbers of the processes "display", "window manager" and "program"
+declare -A started=() # the numbers of the processes that run, by what they are
+part_start=0 # the second in which this part of the tour began
 home=
+preferences= # the scale file that is read at the start
 
 step() {
     now="$theme: $*"
@@ -22,21 +24,21 @@ nothing_ended() {
     done
 }
 
-# await WHAT CONDITION...: nothing here waits for a time; a condition that does not come is a failure.
+# await WHAT CONDITION...: waits for a condition and never for a time; one that does not come is a failure.
 await() {
     local what=$1 end=$((SECONDS + 20))
     shift
     until "$@"; do
         nothing_ended || fail "the $ended ended before: $what"
         ((SECONDS < end)) || fail "this did not come within twenty seconds: $what"
-        ((SECONDS < 60)) || fail "the tour takes longer than a minute; still missing: $what"
+        ((SECONDS - part_start < 60)) || fail "this part takes longer than a minute; still missing: $what"
         sleep 0.02
     done
 }
 
 leave_desktop() {
     local process
-    for process in program "window manager" display; do
+    for process in program "window manager" display "second program" "second display"; do
         [[ -n ${started[$process]:-} ]] || continue
         kill "${started[$process]}" 2>/dev/null || true
         wait "${started[$process]}" 2>/dev/null || true
@@ -48,9 +50,11 @@ leave_desktop() {
 }
 
 # Everything on the desktop runs with this environment and nothing of the caller's: no printers, no session bus.
-# It takes the place of the background process that calls it, so that $! is the program's own number.
+# It takes the place of the background process that calls it, so that $! is the program's own number. The shell has
+# such a process ignore an interrupt; a program that is started by hand does not.
 on_desktop() {
-    exec env -i PATH="$PATH" LANG=C.UTF-8 DISPLAY="$DISPLAY" QT_QPA_PLATFORM=xcb HOME="$home" TMPDIR="$home/tmp" \
+    exec env --default-signal=INT -i PATH="$PATH" LANG=C.UTF-8 DISPLAY="$DISPLAY" QT_QPA_PLATFORM=xcb \
+        HOME="$home" TMPDIR="$home/tmp" \
         XDG_CONFIG_HOME="$home/.config" XDG_DATA_HOME="$home/.local/share" XDG_CACHE_HOME="$home/.cache" \
         XDG_STATE_HOME="$home/.local/state" XDG_RUNTIME_DIR="$home/run" DBUS_SESSION_BUS_ADDRESS=disabled: \
         CUPS_SERVER="$home/run/no-printers" "${theme_settings[@]}" "$@"
@@ -58,6 +62,7 @@ on_desktop() {
 
 make_home() {
     home=$(mktemp -d)
+    preferences=$home/.config/gradeloom/Preferences
     mkdir -p "$home"/{tmp,run,.config,.cache,.local/share,.local/state}
     chmod 700 "$home/run"
     theme_settings=(XDG_CURRENT_DESKTOP=none)
@@ -77,15 +82,23 @@ start_display() {
     await "a display" test -s "$home/display"
     DISPLAY=:$(<"$home/display")
     export DISPLAY
-    on_desktop openbox --sm-disable >build/tour/window-manager.log 2>&1 &
+    on_desktop openbox --sm-disable --config-file "$PWD/tour/openbox.xml" >build/tour/window-manager.log 2>&1 &
     started["window manager"]=$!
     # Without a window manager every key would be lost in silence.
     await "a window manager" has_window_manager
 }
 
-start_program() {
-    on_desktop "$program" >build/tour/program.log 2>&1 </dev/null &
+launch_program() {
+    on_desktop "$program" >>build/tour/program.log 2>&1 </dev/null &
     started[program]=$!
+}
+
+start_program() {
+    launch_program
+    await_form
+}
+
+await_form() {
     await "the window Gradeloom X" window_in_front "Gradeloom X"
     main=$front
     measure_menu_bar
@@ -93,12 +106,15 @@ start_program() {
 
 has_ended() { ! kill -0 "$1" 2>/dev/null; }
 
-# Quits the program as a user does.
-quit_program() {
+# Ends the program with a command and looks at its exit status.
+end_program() { # COMMAND...
     local pid=${started[program]} status=0
-    xdotool key ctrl+q
     unset 'started[program]' # its end is no failure any more
+    "$@"
     await "the program's end" has_ended "$pid"
     wait "$pid" || status=$?
     same "the program's exit status" 0 "$status"
 }
+
+# Quits the program as a user does.
+quit_program() { end_program xdotool key ctrl+q; }

@@ -18,9 +18,11 @@ same_lines() { # WHAT EXPECTED SEEN
     diff <(echo "$2") <(echo "$3") >&2 || fail "$1 differ: < is expected, > was seen"
 }
 
-key() { xdotool key --delay 0 "$@"; }
+# A repeat that the server makes while a key is held has the time stamp of the release before it. So each key goes
+# down some milliseconds after the last one went up: no hand is faster.
+key() { xdotool key --delay 4 "$@"; }
 
-enter() { xdotool type --delay 0 --args 1 "$1" key --delay 0 Return; }
+enter() { xdotool type --delay 4 --args 1 "$1" key --delay 4 Return; }
 
 # --- windows
 
@@ -45,6 +47,19 @@ box_in_front() {
 await_box() { # WHAT
     await "$1" box_in_front
     box=$front
+}
+
+# Presses keys on the box in front, and only then: a box takes no key before the keyboard has been quiet for half a
+# second. Nothing to be seen tells when that is over, so this is the one place where the tour waits for a time.
+press_on_box() { # KEY...
+    sleep 0.6
+    is_front "$box" || fail "the box was gone before it was answered"
+    key "$@"
+}
+
+answer_box() { # KEY...
+    press_on_box "$@"
+    await_main
 }
 
 await_main() { await "the main window in front again" is_front "$main"; }
@@ -81,8 +96,12 @@ measure_menu_bar() {
     ((menu_bar >= 10 && menu_bar <= 60)) || fail "the main window is $HEIGHT high: no room for form and menu bar"
 }
 
-# Clicks at a point of the main window's form.
-click() { xdotool mousemove --window "$main" "$1" $((menu_bar + $2)) click 1; }
+# Does something with the mouse at a point of the main window's form.
+mouse_at() { # X Y WHAT...
+    xdotool mousemove --window "$main" "$1" $((menu_bar + $2)) "${@:3}"
+}
+
+click() { mouse_at "$1" "$2" click 1; }
 
 click_total() { click 170 17 && at=0; }
 click_missed() { click 169 48; }

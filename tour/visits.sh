@@ -40,8 +40,7 @@ visit_repair() {
     click_save_settings
     await_box "the repair notice"
     picture repair "$box"
-    key Return
-    await_main
+    answer_box Return
     expect_scale "${repaired_scale[@]}"
     [[ -z $(find "$home/.config" -name Preferences) ]] || fail "the repaired scale was saved at once"
     go_to Default
@@ -79,8 +78,7 @@ refuse() { # SCORE
     enter "$1"
     await_box "the notice that refuses $1"
     picture refused "$box"
-    key Return
-    await_main
+    answer_box Return
 }
 
 # Types in the papers, the first ones only if a number is given.
@@ -169,8 +167,7 @@ visit_guard() {
     key 5
     await_box "the question before the class is deleted"
     picture question "$box"
-    key Escape
-    await_main
+    answer_box Escape
     at=-1
     expect_field amax "${default_scale[2]}"
     expect_field numstudents "$(result students)"
@@ -178,8 +175,7 @@ visit_guard() {
     go_to amax
     key 9
     await_box "the question before the class is deleted"
-    key alt+y
-    await_main
+    answer_box alt+y
     at=-1
     expect_field amax 9
     xdotool type "${default_scale[2]}" # a sound scale again
@@ -200,7 +196,6 @@ visit_open_broken_scale() {
     same "what the emptied results gave to copy" "$mark" "$(clipboard)"
     answer_path "$home/scale"
     await_box "the repair notice"
-    key Return
-    await_main
+    answer_box Return
     expect_scale "${repaired_scale[@]}"
 }
