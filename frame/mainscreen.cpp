@@ -20,8 +20,7 @@ constexpr std::string_view kScaleOrder[] = {
 #include "scale/bands.def"
 };
 
-static_assert(std::equal(std::begin(kFormOrder), std::end(kFormOrder), std::begin(kScaleOrder),
-                         std::end(kScaleOrder)),
+static_assert(std::ranges::equal(kFormOrder, kScaleOrder),
               "the form must have the fields of the scale, in the order of the scale");
 
 } // namespace

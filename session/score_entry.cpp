@@ -22,7 +22,7 @@ struct Score {
 /// Whether no bound is above the one before it. Gaps between bands are left to the repair.
 bool IsInOrder(ScaleNumbers const& numbers)
 {
-    return std::is_sorted(numbers.begin(), numbers.end(), std::greater<>());
+    return std::ranges::is_sorted(numbers, std::ranges::greater());
 }
 
 bool AskToRepair()

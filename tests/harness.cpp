@@ -26,7 +26,6 @@ void CloseAllWindows()
     Runtime::instance().windows.clear();
 }
 
-
 Doors const& RealDoors()
 {
     static Doors const doors = PlatformDoors();

@@ -148,7 +148,7 @@ private slots:
     {
         TestSession session({
             {kQuestion, kNo},
-            {kPointsAreFixed        }
+            {kPointsAreFixed}
         });
         session.setFields("amin=98 total=30");
         session.whileBoxIsUp = [&] { session.expectFields("problem=1 pointstemp=30"); };

@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <cassert>
-#include <cstdlib>
 
 namespace {
 
@@ -102,8 +101,8 @@ MenuItem* MenuItem::Find(std::string_view name)
 /// Makes the item a menu if it has anything to show in one, and a command otherwise.
 void MenuItem::BuildMenu(MenuBar& bar)
 {
-    bool const opens = std::any_of(children_.begin(), children_.end(),
-                                   [](auto const& child) { return !child->Text().empty(); });
+    bool const opens =
+        std::ranges::any_of(children_, [](auto const& child) { return !child->Text().empty(); });
     if (opens) {
         menu_ = std::make_unique<QMenu>(action_->text());
         action_->setMenu(menu_.get());
@@ -160,13 +159,12 @@ MenuItem& MenuBar::Append(std::unique_ptr<MenuItem> item)
 
 MenuItem& MenuBar::Item(std::string_view name) const
 {
+    MenuItem* found = nullptr;
     for (auto const& item : items_) {
-        if (MenuItem* const found = item->Find(name)) {
-            return *found;
-        }
+        found = found == nullptr ? item->Find(name) : found;
     }
-    assert(!"a menu item of this name");
-    std::abort();
+    assert(found != nullptr);
+    return *found;
 }
 
 void MenuBar::ShowIn(TopLevel& window)

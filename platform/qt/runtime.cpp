@@ -38,24 +38,26 @@ public:
 /// Returns the exit status if the program is only asked something, or something that it does not know.
 std::optional<int> AnswerCommandLine(int count, char const* const* arguments)
 {
-    for (int i = 1; i < count; ++i) {
+    // A desktop restarts the program with "-session" and the name of its session, which there is no use for.
+    int i = 1;
+    while (i + 1 < count && std::string_view(arguments[i]) == "-session") {
+        i += 2;
+    }
+    if (i < count) {
         std::string_view const argument = arguments[i];
         if (argument == "--version") {
-            std::cout << PROGRAM_NAME " " PROGRAM_VERSION << std::endl;
+            std::cout << PROGRAM_NAME " " PROGRAM_VERSION "\n";
             return EXIT_SUCCESS;
         }
         if (argument == "--help") {
-            std::cout << "Usage: " PROGRAM_NAME "\n" PROGRAM_DESCRIPTION ".\nFiles are opened from its menu.\n\n"
+            std::cout << "Usage: " PROGRAM_NAME "\n" PROGRAM_DESCRIPTION
+                         ".\nFiles are opened from its menu.\n\n"
                          "  --help     show this text and end\n"
-                         "  --version  show the version and end"
-                      << std::endl;
+                         "  --version  show the version and end\n";
             return EXIT_SUCCESS;
         }
-        if (argument != "-session") {
-            std::cerr << PROGRAM_NAME ": unknown argument \"" << argument << "\"; see --help" << std::endl;
-            return 2;
-        }
-        ++i; // a desktop restarts the program with the name of its session, which there is no use for
+        std::cerr << PROGRAM_NAME ": unknown argument \"" << argument << "\"; see --help\n";
+        return 2;
     }
     return std::nullopt;
 }
@@ -112,7 +114,7 @@ void _InstallExceptionHelper(std::function<void(std::string_view reason)> helper
 
 void _UnhandledException(std::exception_ptr const& exception)
 {
-    std::cerr << PROGRAM_NAME << ": " << ReasonOf(exception) << std::endl;
+    std::cerr << PROGRAM_NAME << ": " << ReasonOf(exception) << '\n';
     Runtime::instance().exitStatus = 1;
 }
 

@@ -10,7 +10,6 @@
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace {
 
@@ -110,10 +109,7 @@ void Window::Register(std::string const& name, std::unique_ptr<Control> control)
 Control& Window::Find(std::string_view name) const
 {
     auto const found = controlsByName_.find(name);
-    if (found == controlsByName_.end()) {
-        assert(!"a control of this name");
-        std::abort();
-    }
+    assert(found != controlsByName_.end());
     return *found->second;
 }
 
@@ -133,13 +129,13 @@ void Window::OrderKeyboard()
                                  : std::pair(control->TabIndex(), -1);
     };
     std::vector<Control*> order;
-    std::transform(controls_.begin(), controls_.end(), std::back_inserter(order),
-                   [](auto const& control) { return control.get(); });
-    std::sort(order.begin(), order.end(), [&](auto* one, auto* other) { return place(one) < place(other); });
+    std::ranges::transform(controls_, std::back_inserter(order),
+                           [](auto const& control) { return control.get(); });
+    std::ranges::sort(order, {}, place);
     for (std::size_t i = 1; i < order.size(); ++i) {
         QWidget::setTabOrder(&order[i - 1]->Widget(), &order[i]->Widget());
     }
-    auto const first = std::find_if(order.begin(), order.end(), [](Control const* control) {
+    auto const first = std::ranges::find_if(order, [](Control const* control) {
         return (control->Widget().focusPolicy() & Qt::TabFocus) != 0 && !control->Widget().isHidden();
     });
     if (first != order.end()) {

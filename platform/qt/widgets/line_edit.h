@@ -45,7 +45,7 @@ protected:
 private:
     [[nodiscard]] bool isEditable() const { return !isReadOnly() && isEnabled() && isVisible(); }
     [[nodiscard]] qsizetype room() const;
-    [[nodiscard]] QString fitted(QString text, qsizetype room) const;
+    [[nodiscard]] static QString fitted(QString text, qsizetype room);
     [[nodiscard]] bool isConsumed(QString const& key);
     void typeKey(QKeyEvent* event);
     void beginTyping();

@@ -19,7 +19,7 @@ qsizetype LineEdit::room() const
 }
 
 /// The text as one line, cut to the room left: line breaks at its ends are dropped, those inside become blanks.
-QString LineEdit::fitted(QString text, qsizetype room) const
+QString LineEdit::fitted(QString text, qsizetype room)
 {
     static QRegularExpression const atEnds(
         QStringLiteral("^[\\r\\n\\x{2028}\\x{2029}]+|[\\r\\n\\x{2028}\\x{2029}]+$"));

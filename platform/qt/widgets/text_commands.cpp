@@ -39,7 +39,6 @@ constexpr std::array kTextCommands = {
 
 TextCommand const* FindTextCommand(std::string_view item)
 {
-    auto const found = std::find_if(kTextCommands.begin(), kTextCommands.end(),
-                                    [&](TextCommand const& command) { return command.item == item; });
+    auto const* const found = std::ranges::find(kTextCommands, item, &TextCommand::item);
     return found == kTextCommands.end() ? nullptr : &*found;
 }
