@@ -32,7 +32,7 @@ extern "C" void WakeEventLoop(int /*signal*/)
 {
     int const saved = errno;
     char const byte = 0;
-    static_cast<void>(!::write(signalPipe[1], &byte, 1));
+    [[maybe_unused]] ssize_t const written = ::write(signalPipe[1], &byte, 1);
     errno = saved;
 }
 

@@ -7,7 +7,7 @@ Runtime::~Runtime() = default;
 
 Runtime& Runtime::instance()
 {
-    static Runtime* const runtime = new Runtime;
+    static auto* const runtime = new Runtime;
     return *runtime;
 }
 

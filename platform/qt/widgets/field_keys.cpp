@@ -21,7 +21,8 @@ bool IsAltKey(QKeyEvent const& event)
     return false;
 #else
     Qt::KeyboardModifiers const modifiers = event.modifiers();
-    return (modifiers & (Qt::AltModifier | Qt::MetaModifier)) && !(modifiers & Qt::ControlModifier);
+    return modifiers.testAnyFlags(Qt::AltModifier | Qt::MetaModifier) &&
+           !modifiers.testFlag(Qt::ControlModifier);
 #endif
 }
 

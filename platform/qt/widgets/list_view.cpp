@@ -97,7 +97,6 @@ void ListView::updateGeometries()
     verticalScrollBar()->setSingleStep(kRowHeight);
     verticalScrollBar()->setPageStep(viewport()->height());
     verticalScrollBar()->setRange(0, rows_->rowCount() * kRowHeight - viewport()->height());
-    QAbstractItemView::updateGeometries();
     viewport()->update();
 }
 
@@ -217,7 +216,7 @@ QRegion ListView::visualRegionForSelection(QItemSelection const& selection) cons
 void ListView::copySelectedRows() const
 {
     QModelIndexList selected = selectionModel()->selectedRows();
-    std::sort(selected.begin(), selected.end());
+    std::ranges::sort(selected, {}, &QModelIndex::row);
     QStringList lines;
     for (QModelIndex const& row : selected) {
         QStringList cells;
