@@ -146,6 +146,7 @@ private slots:
                          ? text + u' ' + item->shortcut().toString(QKeySequence::PortableText) + u';'
                          : QString();
         }
+        QVERIFY(session.form().FileOpen().Visible() && session.form().UntitledMenu2().Visible());
         QCOMPARE(shown,
                  "File ;Open Grading Scale... Ctrl+O;Presenter Ctrl+T;Close Ctrl+W;Export Results... Ctrl+E;"
                  "Reset Ctrl+R;Print... Ctrl+P;Quit Ctrl+Q;Edit ;Undo Ctrl+Z;- ;Cut Ctrl+X;Copy Ctrl+C;"
