@@ -1,5 +1,6 @@
 #include "tests/harness.h"
 
+#include <QHeaderView>
 #include <QScrollBar>
 
 namespace {
@@ -155,6 +156,20 @@ private slots:
         session.form().PushButton1_Action();
         session.whileBoxIsUp = [&] { session.expectFields("total=7"); };
         session.play("PushButton3; missed=3 Return; focus total; key 7");
+    }
+
+    void theListShowsANumberAPercentageAndItsSign()
+    {
+        TestSession const session;
+        session.play("total=30; missed=3 Return");
+        auto const* const list = session.widget<QTableView>("ListBox1");
+        QCOMPARE(list->horizontalHeader()->count(), 3);
+        QVERIFY(list->columnWidth(0) == 20 && list->columnWidth(1) == 65 && list->rowHeight(0) == 16);
+        auto const alignment = [&](int column) {
+            return list->model()->index(0, column).data(Qt::TextAlignmentRole).toInt() &
+                   Qt::AlignHorizontal_Mask;
+        };
+        QVERIFY(alignment(1) == Qt::AlignRight && alignment(2) == Qt::AlignLeft);
     }
 
     void theLastEntryIsInSight()

@@ -199,6 +199,7 @@ private slots:
             auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
             QCOMPARE(dialog->windowTitle(), "Save your file"_L1);
             QCOMPARE(dialog->acceptMode(), QFileDialog::AcceptSave);
+            QVERIFY(dialog->testOption(QFileDialog::DontUseNativeDialog)); // which alone shows the prompt
             QCOMPARE(dialog->labelText(QFileDialog::FileName), "Enter a filename"_L1);
             QCOMPARE(QFileInfo(dialog->selectedFiles().value(0)).fileName(), "ExportedPercents"_L1);
             dialog->findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(session.pathOf("percents"));

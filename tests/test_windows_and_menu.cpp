@@ -1,6 +1,8 @@
+#include "frame/author.h"
 #include "frame/startup.h"
 #include "platform/application.h"
 #include "platform/runtime.h"
+#include "presenter/presenter.h"
 #include "tests/harness.h"
 
 #include <QDir>
@@ -145,6 +147,7 @@ private slots:
                          ? text + u' ' + item->shortcut().toString(QKeySequence::PortableText) + u';'
                          : QString();
         }
+        QVERIFY(session.form().FileOpen().Visible() && session.form().UntitledMenu2().Visible());
         QCOMPARE(shown,
                  "File ;Open Grading Scale... Ctrl+O;Presenter Ctrl+T;Close Ctrl+W;Export Results... Ctrl+E;"
                  "Reset Ctrl+R;Print... Ctrl+P;Quit Ctrl+Q;Edit ;Undo Ctrl+Z;- ;Cut Ctrl+X;Copy Ctrl+C;"
@@ -184,6 +187,22 @@ private slots:
         QVERIFY(session.openedAddress.empty());
         QTest::mousePress(button, Qt::LeftButton);
         QVERIFY(session.openedAddress.rfind("https://", 0) == 0);
+        session.chooseCommand("FileClose");
+        QVERIFY(session.window("Author") == nullptr);
+    }
+
+    void noHandlerOfACommandKeepsItFromOthers()
+    {
+        TestSession session(
+            {{"There is currently no data to send"}, {"There is currently no data to export"}});
+        class mainscreen& form = session.form();
+        QVERIFY(!form._FilePrint_Action() && !form._FileExport_Action() && !form._FileOpen_Action());
+        session.play("total=30; missed=3 Return; missed=3 Return");
+        session.expectBox("In order to change the current grading scale, you must first reset the data");
+        QVERIFY(!form._FileOpen_Action() && !form._FilePrint_Action() && !form._FileExport_Action());
+        QVERIFY(!form._EditUndo_Action() && !form._FileReset_Action());
+        QVERIFY(!form._filepresent_Action() && !form._About_Action() && !form._FileClose_Action());
+        QVERIFY(!::Window1()._FileClose_Action() && !::Author()._FileClose_Action());
     }
 
     void theChartSplitsIntoThreePairs_data() { AddRows(kCharts); }
