@@ -236,6 +236,17 @@ private slots:
         session.click("PushButton4");
         QVERIFY(QDir().rmdir(Preferences()));
     }
+
+    void aFileInThePlaceOfTheSettingsFolderIsReported()
+    {
+        TestSession const session(
+            {{"The file \"Preferences\" could not be saved: its folder could not be made."}});
+        QString const folder = QFileInfo(Preferences()).path();
+        QDir(folder).removeRecursively();
+        WriteFile(folder, "");
+        session.click("PushButton4");
+        QVERIFY(QFile::remove(folder) && QDir().mkpath(folder));
+    }
 };
 
 GRADELOOM_TEST(ScaleFiles)
