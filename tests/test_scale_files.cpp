@@ -251,6 +251,17 @@ private slots:
             QCOMPARE(told, "The file \"mine\" could not be opened: Path not found."_L1);
         }
     }
+
+    void aFileInThePlaceOfTheSettingsFolderIsReported()
+    {
+        TestSession const session(
+            {{"The file \"Preferences\" could not be saved: its folder could not be made."}});
+        QString const folder = QFileInfo(Preferences()).path();
+        QDir(folder).removeRecursively();
+        WriteFile(folder, "");
+        session.click("PushButton4");
+        QVERIFY(QFile::remove(folder) && QDir().mkpath(folder));
+    }
 };
 
 GRADELOOM_TEST(ScaleFiles)
