@@ -5,12 +5,21 @@
 #include "platform/runtime.h"
 
 #include <QClipboard>
+#include <QDir>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPrinter>
 #include <QStandardPaths>
 
+#include <cerrno>
+
 namespace {
+
+#ifdef Q_OS_WIN
+constexpr bool kIsWindows = true;
+#else
+constexpr bool kIsWindows = false;
+#endif
 
 QString Rows(QAbstractItemModel const& model)
 {
@@ -151,7 +160,19 @@ void Compose(QLineEdit* field, char const* commit, char const* preedit)
 QByteArray Content(QString const& path)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    if (kIsWindows) {
+        bytes.replace("\n", "!\n").replace("\r!\n", "\n");
+    }
+    return bytes;
+}
+
+std::string NoSuchFolder()
+{
+    constexpr int kPathNotFound = 3; // the system's number
+    std::string reason = qt_error_string(kIsWindows ? kPathNotFound : ENOENT).toStdString();
+    reason.erase(reason.find_last_not_of('.') + 1);
+    return reason;
 }
 
 int RunTests(QObject& tests, int count, char** arguments)
@@ -161,6 +182,10 @@ int RunTests(QObject& tests, int count, char** arguments)
     QStandardPaths::setTestModeEnabled(true);
     RuntimeInit();
     RuntimePerformInitializers();
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // a system's own can't be driven from here
+    if (kIsWindows) {                                        // where the settings don't move with HOME
+        QDir(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation)).removeRecursively();
+    }
     int const failures = QTest::qExec(&tests, count, arguments);
     RuntimePerformFinalizers();
     return failures;

@@ -76,7 +76,10 @@ private:
 };
 
 void Compose(QLineEdit* field, char const* commit, char const* preedit = "");
+/// What a file holds, with the platform's line ends as "\n". Any other line end shows as "!\n".
 QByteArray Content(QString const& path);
+/// What the system says of a folder that is not there.
+std::string NoSuchFolder();
 int RunTests(QObject& tests, int count, char** arguments);
 
 #define GRADELOOM_TEST(Class)                                                                                \

@@ -1,6 +1,7 @@
 #include "tests/harness.h"
 
 #include <QFileDialog>
+#include <QPrinterInfo>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTimer>
@@ -57,6 +58,9 @@ class Reports final : public QObject {
 private slots:
     void everyEntryStandsAtItsPlace()
     {
+#ifdef Q_OS_WIN
+        QSKIP("needs a program that reads PDF files back");
+#endif
         for (int const entries : {1, 40, 41, 80, 81, 120, 121, 160, 161}) {
             Desk desk;
             Grade(desk, entries);
@@ -115,7 +119,7 @@ private slots:
         desk.choose("FileReset");
         Grade(desk, 1);
         desk.chosen = desk.at("no/report.pdf");
-        desk.expect("The results could not be printed to the file \"report.pdf\": No such file or dir");
+        desk.expect("The results could not be printed to the file \"report.pdf\": " + NoSuchFolder() + ".");
         desk.choose("FilePrint");
         desk.chosen = desk.at("");
         desk.expect("The file \"");
@@ -133,7 +137,7 @@ private slots:
 
     void theRealDialogsLeadToRealFiles()
     {
-        Desk const desk;
+        Desk desk;
         PlatformDoors().fileDialog = ShowFileDialog;
         PlatformDoors().printDialog = ShowPrintDialog;
         desk.gradeAll("40", {"4"});
@@ -147,6 +151,13 @@ private slots:
         desk.choose("FileExport");
         QCOMPARE(Content(desk.at("percents")), "90\n"_ba);
         desk.activate();
+#ifdef Q_OS_WIN
+        if (QPrinterInfo::availablePrinterNames().isEmpty()) {
+            desk.expect("The results could not be printed: no printer is set up.");
+            desk.choose("FilePrint");
+        }
+        return; // the system's own dialog can't be driven from here
+#endif
         QTimer::singleShot(0, qApp, [&] {
             QWidget* const dialog = QApplication::activeModalWidget();
             dialog->findChild<QLineEdit*>(u"filename"_s)->setText(desk.at("report.pdf"));

@@ -139,7 +139,7 @@ private slots:
         desk.gradeAll("40", {"4"});
         desk.write("dminusmin=59.6");
         desk.chosen = desk.at("no/such/folder/scale");
-        desk.expect("The file \"scale\" could not be saved: No such file or directory.");
+        desk.expect("The file \"scale\" could not be saved: " + NoSuchFolder() + ".");
         desk.press("PushButton2");
         QCOMPARE(desk.show("dminusmin numstudents foundaproblem"), "60|1|"_L1);
         desk.chosen = desk.at("scale");
