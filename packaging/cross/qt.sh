@@ -60,7 +60,11 @@ fetch_qt() { # VERSION
 }
 
 unpack_qt() {
-    [[ -d $qt_work/sources ]] || dpkg-source --no-check -q --extract "$qt_sources"/*.dsc "$qt_work/sources" >/dev/null
+    [[ ! -d $qt_work/sources ]] || return 0
+    mkdir -p "$qt_work"
+    rm -rf "$qt_work/half"
+    dpkg-source --no-check -q --extract "$qt_sources"/*.dsc "$qt_work/half" >/dev/null
+    mv "$qt_work/half" "$qt_work/sources"
 }
 
 configure_qt() {
