@@ -15,6 +15,12 @@
 
 namespace {
 
+#ifdef Q_OS_WIN
+constexpr bool kIsWindows = true;
+#else
+constexpr bool kIsWindows = false;
+#endif
+
 // These two alone know the inside of the layer over the desktop.
 void WriteByProgram(QWidget* field, QString const& text)
 {
@@ -278,7 +284,11 @@ void SendInputMethod(QLineEdit* field, char const* commit, char const* composing
 QByteArray ContentOf(QString const& path)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    if (kIsWindows) {
+        bytes.replace("\n", "!\n").replace("\r!\n", "\n");
+    }
+    return bytes;
 }
 
 void WriteFile(QString const& path, QByteArray const& bytes)
@@ -293,11 +303,16 @@ int RunTests(QObject& tests, int count, char** arguments)
     QTemporaryDir const home; // no test meets the files of a user or of another test
     qputenv("HOME", QFile::encodeName(home.path()));
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen"); // neither needs a display nor takes a developer's keyboard
+        // This neither needs a display nor takes a developer's keyboard.
+        qputenv("QT_QPA_PLATFORM", kIsWindows ? "windows" : "offscreen");
     }
     QStandardPaths::setTestModeEnabled(true);
     RuntimeInit(0, nullptr);
     RuntimePerformInitializers();
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // a system's own can't be driven from here
+    if (kIsWindows) {                                        // where the settings don't move with HOME
+        QDir(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation)).removeRecursively();
+    }
     int const failures = QTest::qExec(&tests, count, arguments);
     RuntimePerformFinalizers();
     return failures;

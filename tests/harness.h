@@ -142,6 +142,7 @@ void CheckScenario();
 void StartAgain();
 /// Sends what an input method sends: text to insert, and text still in composition.
 void SendInputMethod(QLineEdit* field, char const* commit, char const* composing = "");
+/// What a file holds, with the platform's line ends as "\n". On Windows any other line end shows as "!\n".
 QByteArray ContentOf(QString const& path);
 void WriteFile(QString const& path, QByteArray const& bytes);
 int RunTests(QObject& tests, int count, char** arguments);

@@ -164,7 +164,8 @@ private slots:
         session.play("total=30; missed=3 Return");
         auto const* const list = session.widget<QTableView>("ListBox1");
         QCOMPARE(list->horizontalHeader()->count(), 3);
-        QVERIFY(list->columnWidth(0) == 20 && list->columnWidth(1) == 65 && list->visualRect(list->model()->index(0, 0)).height() == 16);
+        QVERIFY(list->columnWidth(0) == 20 && list->columnWidth(1) == 65 &&
+                list->visualRect(list->model()->index(0, 0)).height() == 16);
         auto const alignment = [&](int column) {
             return list->model()->index(0, column).data(Qt::TextAlignmentRole).toInt() &
                    Qt::AlignHorizontal_Mask;

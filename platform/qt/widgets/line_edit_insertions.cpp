@@ -49,11 +49,15 @@ void LineEdit::pasteFrom(QClipboard::Mode mode)
 
 void LineEdit::inputMethodEvent(QInputMethodEvent* event)
 {
+    if (isReadOnly()) {
+        event->ignore();
+        return;
+    }
     bool const isComposing = !event->preeditString().isEmpty();
     bool const changes = !event->commitString().isEmpty() || event->replacementLength() > 0 ||
                          (isComposing && hasSelectedText()); // which a composition takes the place of
     QPointer<LineEdit> const field(this);
-    if ((changes && isEditable() && isConsumed(event->commitString())) || field.isNull()) {
+    if ((changes && isConsumed(event->commitString())) || field.isNull()) {
         return;
     }
     if (changes) {
