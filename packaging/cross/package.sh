@@ -4,12 +4,15 @@
 package_packages=(librsvg2-bin icoutils zip)
 package=
 
+# The smallest picture has a drawing of its own.
 make_icon() {
-    local icon=build/windows/gradeloom.ico folder=build/windows/icons size images=()
-    [[ ! $icon -nt packaging/gradeloom.svg ]] || return 0
+    local icon=build/windows/gradeloom.ico folder=build/windows/icons size drawing images=()
+    [[ ! $icon -nt packaging/icons/gradeloom.svg || ! $icon -nt packaging/icons/gradeloom-16.svg ]] || return 0
     mkdir -p "$folder"
     for size in 16 24 32 48 64 128 256; do
-        rsvg-convert --width "$size" --height "$size" --output "$folder/$size.png" packaging/gradeloom.svg
+        drawing=gradeloom
+        ((size > 16)) || drawing=gradeloom-16
+        rsvg-convert --width "$size" --height "$size" --output "$folder/$size.png" "packaging/icons/$drawing.svg"
         images+=("$folder/$size.png")
     done
     icotool --create --output "$icon" "${images[@]:0:6}" --raw "${images[6]}"
