@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScrollArea>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -156,6 +157,23 @@ void ListView::keyPressEvent(QKeyEvent* event)
         selectionModel()->setCurrentIndex(rows_->index(0, 0), selectionCommand(rows_->index(0, 0)));
     } else {
         QTableView::keyPressEvent(event);
+    }
+    if (event->isAccepted()) {
+        showCurrentRow();
+    }
+}
+
+/// On a small screen the list itself may be partly out of sight, and the row that a key leads to with it.
+void ListView::showCurrentRow()
+{
+    QWidget* ancestor = currentIndex().isValid() ? parentWidget() : nullptr;
+    while (ancestor != nullptr && qobject_cast<QScrollArea*>(ancestor) == nullptr) {
+        ancestor = ancestor->parentWidget();
+    }
+    if (auto* const area = qobject_cast<QScrollArea*>(ancestor)) {
+        QRect const row = rowRect(currentIndex().row(), currentIndex().row());
+        QPoint const center = viewport()->mapTo(area->widget(), row.center());
+        area->ensureVisible(center.x(), center.y(), row.width() / 2, kRowHeight);
     }
 }
 

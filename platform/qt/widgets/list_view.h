@@ -35,6 +35,7 @@ private:
     [[nodiscard]] QRect rowRect(int first, int last) const;
     void drawRow(QPainter& painter, int row) const;
     void copySelectedRows() const;
+    void showCurrentRow();
 
     ListModel* rows_;
 };

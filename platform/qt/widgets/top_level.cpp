@@ -101,10 +101,11 @@ void TopLevel::noteFocus(QWidget* control)
         left->leave();
     }
     focusedControl_ = control;
-    focusFrame_->setWidget(control);
-    if (scrollArea_ != nullptr) {
+    if (scrollArea_ != nullptr) { // first: around a control that is out of sight the frame would stay hidden
         scrollArea_->ensureWidgetVisible(control);
     }
+    focusFrame_->setWidget(control); // which makes it a child of the window, whose colours are the desktop's
+    focusFrame_->setPalette(content_->palette());
     MenuAction::endIgnoring();
     if (auto* const field = dynamic_cast<LineEdit*>(control)) {
         FocusOrder::instance().add(field, field->gotFocus);
