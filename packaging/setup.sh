@@ -1,6 +1,6 @@
 # shellcheck shell=bash disable=SC2034,SC2154
 # What ./run, ./test and .ci/run share: messages, packages, configuring, building.
-# The caller sets `me`, the name in front of its messages, and stands at the top of the repository.
+# The caller sets `me`, the name in front of its messages, and is at the top of the repository.
 
 build_packages=(build-essential cmake ninja-build qt6-base-dev fonts-dejavu-core)
 pdf_packages=(poppler-utils) # the tests and the tour read printed pages back

@@ -9,7 +9,7 @@ class PushButton final : public Control {
 public:
     PushButton(QWidget* parent, std::string const& name);
 
-    /// The button was pressed and released, clicked by key or stood for Return.
+    /// The button was clicked, by mouse or Space, or is the default button and Return was pressed.
     std::function<void()> Action;
     /// The left mouse button went down at this place inside the button. True keeps the press from it.
     std::function<bool(PushButton&, int x, int y)> MouseDown;

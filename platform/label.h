@@ -7,7 +7,7 @@ class Label final : public Control {
 public:
     Label(QWidget* parent, std::string const& name);
 
-    /// Tells assistive programs that this is the label of that control.
+    /// Makes this the label of that control for assistive programs.
     void LabelFor(Control const& control);
     /// Lets the text run over several centred lines.
     void Multiline();

@@ -5,7 +5,7 @@
 #include <cstdint>
 
 /// A list of rows with one or more columns of text. Rows and columns count from 0; a read outside the list
-/// gives an empty text, a write outside it is passed over. Appending costs the same at any length.
+/// returns an empty text, a write outside it is ignored. Appending costs the same at any length.
 class Listbox final : public Control {
 public:
     Listbox(QWidget* parent, std::string const& name);

@@ -18,7 +18,7 @@ public:
     std::function<void(TextField&)> TextChange;
 
     [[nodiscard]] std::string Text() const;
-    /// Replaces the whole text; the cursor then stands at its end (in a read-only field at its start).
+    /// Replaces the whole text; the cursor is then at its end (in a read-only field at its start).
     void Text(std::string_view text);
 
     /// Limits what a user can put in, by whatever way, to so many characters. Program writes stay whole.

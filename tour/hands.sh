@@ -75,7 +75,7 @@ answer_path() { # PATH
     enter "$1"
 }
 
-# The file is written at one stroke, but the dialog is gone a moment earlier.
+# The file is written atomically, but the dialog is gone a moment earlier.
 save_as() { # PATH
     answer_path "$1"
     await "the file ${1##*/}" test -s "$1"

@@ -11,7 +11,7 @@ void NoteKey(QKeyEvent const& event);
 /// The press repeats a key that is held down.
 bool IsRepeat(QKeyEvent const& event);
 
-/// The last press was such a repeat. A shortcut is triggered right behind the key event that it stands for.
+/// The last press was such a repeat. A shortcut is triggered right after its key event.
 bool IsLastPressRepeat();
 
 /// The time stamp of the last press in milliseconds; 0 if it had none.
