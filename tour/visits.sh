@@ -242,8 +242,9 @@ visit_small_screen() {
     expect_copy "the row after End" $'-70\t33.33333'
     picture presenter-end "$presenter"
     (($(count_color "$file-end.png" 20,90,160) > 1000)) || fail "the chosen last row is out of sight"
+    key shift+Tab shift+Tab
     xdotool mousemove --window "$presenter" 300 300 click --repeat 10 --delay 10 5
-    key Tab Tab
+    key shift+Tab
     picture presenter-go "$presenter" "$shot"
     framed "$file-go.png" 60 "100x40+245+$menu_bar" || fail "no frame around the focused button"
     key Tab
