@@ -38,7 +38,8 @@ public:
 /// Returns the exit status if the program is only asked something, or something that it does not know.
 std::optional<int> AnswerCommandLine(int count, char const* const* arguments)
 {
-    for (int i = 1; i < count; ++i) {
+    // A desktop restarts the program with "-session" and the session's name, which there is no use for.
+    for (int i = 1; i < count; i += 2) {
         std::string_view const argument = arguments[i];
         if (argument == "--version") {
             std::cout << PROGRAM_NAME " " PROGRAM_VERSION << std::endl;
@@ -55,7 +56,6 @@ std::optional<int> AnswerCommandLine(int count, char const* const* arguments)
             std::cerr << PROGRAM_NAME ": unknown argument \"" << argument << "\"; see --help" << std::endl;
             return 2;
         }
-        ++i; // a desktop restarts the program with the name of its session, which there is no use for
     }
     return std::nullopt;
 }
