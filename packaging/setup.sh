@@ -4,7 +4,9 @@
 
 build_packages=(build-essential cmake ninja-build qt6-base-dev fonts-dejavu-core)
 pdf_packages=(poppler-utils) # the tests and the tour read printed pages back
-tour_packages=(xvfb openbox xdotool xclip x11-utils x11-xkb-utils x11-xserver-utils imagemagick "${pdf_packages[@]}")
+tour_packages=(xvfb openbox xdotool xclip x11-utils x11-xkb-utils x11-xserver-utils imagemagick at-spi2-core
+    dbus-daemon python3-gi gir1.2-atspi-2.0 "${pdf_packages[@]}")
+style_packages=(adwaita-qt6 qt6-gtk-platformtheme kde-style-breeze) # of other desktops, for checks alone
 deb_packages=(debhelper librsvg2-bin)
 check_packages=(clang clang-format-19 clang-tidy-19 shellcheck lintian desktop-file-utils appstream
     g++-mingw-w64-x86-64-posix)

@@ -38,7 +38,7 @@ await() {
 
 leave_desktop() {
     local process
-    for process in program "window manager" display "second program" "second display"; do
+    for process in program "bell watch" "window manager" display "second program" "second display" "message bus"; do
         [[ -n ${started[$process]:-} ]] || continue
         kill "${started[$process]}" 2>/dev/null || true
         wait "${started[$process]}" 2>/dev/null || true
@@ -66,18 +66,43 @@ make_home() {
     mkdir -p "$home"/{tmp,run,.config,.cache,.local/share,.local/state}
     chmod 700 "$home/run"
     theme_settings=(XDG_CURRENT_DESKTOP=none)
-    if [[ $theme == dark ]]; then
-        theme_settings=(XDG_CURRENT_DESKTOP=KDE KDE_SESSION_VERSION=5 KDE_FULL_SESSION=true)
-        cp tour/dark-colours "$home/.config/kdeglobals"
-    fi
+    screen=1280x1024
+    case $theme in
+        dark)
+            theme_settings=(XDG_CURRENT_DESKTOP=KDE KDE_SESSION_VERSION=5 KDE_FULL_SESSION=true)
+            cp tour/dark-colours "$home/.config/kdeglobals"
+            ;;
+        small) screen=1024x600 ;;
+        adwaita* | breeze) theme_settings+=(QT_STYLE_OVERRIDE="$theme") ;;
+        gtk3 | gnome) theme_settings+=(QT_QPA_PLATFORMTHEME="$theme") ;;
+    esac
+}
+
+# Whether a desktop's style is installed; that of the toolkit's own always is.
+has_style() { # THEME
+    local plugins
+    plugins=$(qmake6 -query QT_INSTALL_PLUGINS)
+    case $1 in
+        gnome) ;;
+        gtk3) [[ -e $plugins/platformthemes/libqgtk3.so ]] ;;
+        *) compgen -G "$plugins/styles/*${1%-dark}*.so" >/dev/null ;;
+    esac
 }
 
 has_window_manager() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
 
+# The bus over which assistive programs talk to this desktop's program and to no other.
+start_bus() {
+    on_desktop dbus-daemon --session --nofork --print-address=3 3>"$home/bus" >build/tour/bus.log 2>&1 &
+    started["message bus"]=$!
+    await "a message bus" test -s "$home/bus"
+    theme_settings+=(DBUS_SESSION_BUS_ADDRESS="$(<"$home/bus")" QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1)
+}
+
 # Without -noreset the server starts anew when its last client leaves, and that can be the one that only looks
 # whether the window manager is there yet.
 start_display() {
-    Xvfb -displayfd 3 -noreset -screen 0 1280x1024x24 -nolisten tcp 3>"$home/display" >build/tour/display.log 2>&1 &
+    Xvfb -displayfd 3 -noreset -screen 0 "${screen}x24" -nolisten tcp 3>"$home/display" >build/tour/display.log 2>&1 &
     started[display]=$!
     await "a display" test -s "$home/display"
     DISPLAY=:$(<"$home/display")
@@ -86,6 +111,7 @@ start_display() {
     started["window manager"]=$!
     # Without a window manager every key would be lost in silence.
     await "a window manager" has_window_manager
+    [[ $theme != heard ]] || start_bus
 }
 
 launch_program() {

@@ -185,3 +185,8 @@ steady() { # FILE WINDOW UNLIKE
     shot=$(identify -format '%# %k' "$1")
     [[ $shot == "$last" && $shot != "$3" ]] && ((${shot#* } > 8))
 }
+
+# How many pixels of a picture have a colour.
+count_color() { # FILE COLOR
+    convert "$1" -depth 8 -fill black +opaque "rgb($2)" -fill white -opaque "rgb($2)" -format '%[fx:round(mean*w*h)]' info:
+}

@@ -2,7 +2,8 @@
 # What fingers, desktops and systems do otherwise than expected. Each visit makes the class that it needs, and ends
 # with the main window in front and the default scale.
 
-slips_of_hands=(held_keys double_clicks stray_keys layouts composed_text menu_keys pastes copied_rows undo_after_slip)
+slips_of_hands=(held_keys double_clicks stray_keys layouts composed_text menu_keys pastes copied_rows
+    list_keys undo_after_slip)
 slips_of_desktops=(dialog_windows notice_at_start signals file_limit server_end)
 
 # A class of a test of 40 points, in place of the one before.
@@ -260,6 +261,18 @@ visit_copied_rows() {
     key ctrl+c
     await "the rows on the clipboard" clipboard_is_not "$mark"
     same "the copied rows" $'1\t92.5\t%\n2\t88.75\t%\n3\t0\t%.' "$(clipboard && echo .)"
+}
+
+visit_list_keys() {
+    step "keys in the list"
+    local row
+    new_class 3 4.5 40
+    go_to ListBox1
+    for row in Down=$'1\t92.5\t%' Down=$'2\t88.75\t%' End=$'3\t0\t%' Home=$'1\t92.5\t%'; do
+        key "${row%%=*}"
+        expect_copy "the row after ${row%%=*}" "${row#*=}"
+    done
+    at=-1
 }
 
 # --- slips taken back

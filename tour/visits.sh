@@ -199,3 +199,94 @@ visit_open_broken_scale() {
     answer_box Return
     expect_scale "${repaired_scale[@]}"
 }
+
+# --- small screens
+
+# The first column's row at the bottom of the Presenter, where the chart ends after all scrolling is done: the form
+# is 646 high, and the row is 20 above its end.
+expect_last_row() { # WHAT
+    mark_clipboard
+    xdotool mousemove --window "$presenter" 50 $((HEIGHT - 20)) click 1
+    key ctrl+c
+    await "the copied row" clipboard_is_not "$mark"
+    same "the last row by $1" $'-35\t66.66667' "$(clipboard)"
+}
+
+expect_copy() { # WHAT EXPECTED
+    mark_clipboard
+    key ctrl+c
+    await "$1 on the clipboard" clipboard_is_not "$mark"
+    same "$1" "$2" "$(clipboard)"
+}
+
+# Whether a picture has a horizontal black line, as only the frame around the focus does.
+framed() { # FILE WIDTH GEOMETRY
+    [[ $(convert "$1" -crop "$3" +repage -threshold 5% -negate -morphology Erode "rectangle:$2x1" \
+        -format '%[fx:maxima]' info:) == 1 ]]
+}
+
+visit_small_screen() {
+    step "a Presenter that is higher than the screen"
+    local presenter file=build/tour/$theme/presenter
+    open_with ctrl+t Presenter
+    presenter=$front
+    measure "$presenter"
+    same "the width of form and scroll bar" $((631 + 14)) "$WIDTH"
+    ((HEIGHT < 600)) || fail "a window $HEIGHT high on a screen of 600"
+    enter 105
+    xdotool mousemove --window "$presenter" 300 300 click --repeat 10 --delay 10 5
+    expect_last_row "the wheel"
+    key shift+Tab Next Next
+    expect_last_row "Page Down"
+    key Tab End
+    expect_copy "the row after End" $'-70\t33.33333'
+    picture presenter-end "$presenter"
+    (($(count_color "$file-end.png" 20,90,160) > 1000)) || fail "the chosen last row is out of sight"
+    key shift+Tab shift+Tab
+    xdotool mousemove --window "$presenter" 300 300 click --repeat 10 --delay 10 5
+    key shift+Tab
+    picture presenter-go "$presenter" "$shot"
+    framed "$file-go.png" 60 "100x40+245+$menu_bar" || fail "no frame around the focused button"
+    key Tab
+    xdotool type 7
+    key ctrl+a
+    expect_copy "the field, which Tab comes back to" 7
+    key ctrl+w
+    await_main
+}
+
+# --- ears
+
+# An assistive program grades a paper, with neither keys nor mouse.
+visit_by_ear() {
+    step "a paper by ear"
+    (on_desktop timeout 50 tour/by_ear) || fail "the program was not heard as it should be"
+}
+
+bells() { grep -c 'window= 0x0, !event_only' build/tour/bells.log || true; }
+
+bells_are() { (($(bells) == $1)); }
+
+# The server is told of each bell; the first one is made here, to know that it is heard.
+visit_bell() {
+    step "the bell of a notice and of a question"
+    echo 'Bell() printEvent' >"$home/bells"
+    : >build/tour/bells.log
+    stdbuf -oL xkbevd -cfg "$home/bells" >>build/tour/bells.log 2>&1 &
+    started["bell watch"]=$!
+    await "the watch over the bell" grep -q ImAlive build/tour/bells.log
+    xkbbell
+    await "a bell" bells_are 1
+    new_class 3 4
+    enter 45
+    await_box "the notice that refuses 45"
+    await "the notice's bell" bells_are 2
+    answer_box Return
+    go_to_amax
+    key 5
+    await_box "the question after 5"
+    await "the question's bell" bells_are 3
+    answer_box Escape
+    expect_papers 2
+    same "the bells in all" 3 "$(bells)"
+}

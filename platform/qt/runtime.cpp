@@ -38,12 +38,8 @@ public:
 /// Returns the exit status if the program is only asked something, or something that it does not know.
 std::optional<int> AnswerCommandLine(int count, char const* const* arguments)
 {
-    // A desktop restarts the program with "-session" and the name of its session, which there is no use for.
-    int i = 1;
-    while (i + 1 < count && std::string_view(arguments[i]) == "-session") {
-        i += 2;
-    }
-    if (i < count) {
+    // A desktop restarts the program with "-session" and the session's name, which there is no use for.
+    for (int i = 1; i < count; i += 2) {
         std::string_view const argument = arguments[i];
         if (argument == "--version") {
             std::cout << PROGRAM_NAME " " PROGRAM_VERSION "\n";
@@ -56,8 +52,10 @@ std::optional<int> AnswerCommandLine(int count, char const* const* arguments)
                          "  --version  show the version and end\n";
             return EXIT_SUCCESS;
         }
-        std::cerr << PROGRAM_NAME ": unknown argument \"" << argument << "\"; see --help\n";
-        return 2;
+        if (argument != "-session") {
+            std::cerr << PROGRAM_NAME ": unknown argument \"" << argument << "\"; see --help\n";
+            return 2;
+        }
     }
     return std::nullopt;
 }
