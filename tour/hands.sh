@@ -188,5 +188,6 @@ steady() { # FILE WINDOW UNLIKE
 
 # How many pixels of a picture have a colour.
 count_color() { # FILE COLOR
-    convert "$1" -depth 8 -fill black +opaque "rgb($2)" -fill white -opaque "rgb($2)" -format '%[fx:round(mean*w*h)]' info:
+    convert "$1" -depth 8 -fill black +opaque "rgb($2)" -fill white -opaque "rgb($2)" \
+        -format '%[fx:round(mean*w*h)]' info:
 }

@@ -165,7 +165,7 @@ MenuItem& MenuBar::Item(std::string_view name) const
             return *found;
         }
     }
-    assert(!"a menu item of this name");
+    assert(false && "a menu item of this name");
     std::abort();
 }
 

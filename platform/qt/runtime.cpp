@@ -46,7 +46,8 @@ std::optional<int> AnswerCommandLine(int count, char const* const* arguments)
             return EXIT_SUCCESS;
         }
         if (argument == "--help") {
-            std::cout << "Usage: " PROGRAM_NAME "\n" PROGRAM_DESCRIPTION ".\nFiles are opened from its menu.\n\n"
+            std::cout << "Usage: " PROGRAM_NAME "\n" PROGRAM_DESCRIPTION
+                         ".\nFiles are opened from its menu.\n\n"
                          "  --help     show this text and end\n"
                          "  --version  show the version and end"
                       << std::endl;

@@ -111,7 +111,7 @@ Control& Window::Find(std::string_view name) const
 {
     auto const found = controlsByName_.find(name);
     if (found == controlsByName_.end()) {
-        assert(!"a control of this name");
+        assert(false && "a control of this name");
         std::abort();
     }
     return *found->second;
