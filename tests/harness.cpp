@@ -4,9 +4,12 @@
 #include "platform/qt/widgets/line_edit.h"
 #include "platform/runtime.h"
 
+#include <QAccessible>
 #include <QClipboard>
+#include <QDropEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QPrinter>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -55,10 +58,23 @@ QString RowsOf(QAbstractItemModel const& model)
     QString rows;
     for (int i = 0; i < model.rowCount() * model.columnCount(); ++i) {
         int const column = i % model.columnCount();
-        rows += column > 0 ? u"," : i > 0 ? u";" : u"";
+        if (i > 0) {
+            rows += column > 0 ? u',' : u';';
+        }
         rows += model.index(i / model.columnCount(), column).data().toString();
     }
     return rows;
+}
+
+void Drop(QWidget* field, QString const& text)
+{
+    QMimeData data;
+    data.setText(text);
+    QDragEnterEvent enter(QPoint(2, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDropEvent drop(QPointF(2, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(field, &enter);
+    QCoreApplication::sendEvent(field, &drop);
+    QCoreApplication::processEvents();
 }
 
 } // namespace
@@ -74,7 +90,7 @@ TestSession::TestSession(std::vector<Box> boxes) : expectedBoxes_(std::move(boxe
     RealDoors();
     PlatformDoors().messageBox = [this](MessageBoxRequest const& request) {
         lastBox = request.text;
-        if (isBoxUp_ || expectedBoxes_.empty() || request.text.rfind(expectedBoxes_.front().text, 0) != 0 ||
+        if (isBoxUp_ || expectedBoxes_.empty() || !request.text.starts_with(expectedBoxes_.front().text) ||
             request.question != (expectedBoxes_.front().answer != 0)) {
             QTest::qFail(("unexpected box: " + request.text).c_str(), __FILE__, __LINE__);
             return kNo;
@@ -115,15 +131,12 @@ TestSession::~TestSession()
     }
 }
 
-void TestSession::useRealMessageBoxes()
+void TestSession::useRealDoors()
 {
-    PlatformDoors().messageBox = RealDoors().messageBox;
-}
-
-void TestSession::useRealDialogs()
-{
-    PlatformDoors().fileDialog = RealDoors().fileDialog;
-    PlatformDoors().printDialog = RealDoors().printDialog;
+    Doors const& real = RealDoors();
+    PlatformDoors().messageBox = real.messageBox;
+    PlatformDoors().fileDialog = real.fileDialog;
+    PlatformDoors().printDialog = real.printDialog;
 }
 
 QMainWindow* TestSession::window(char const* name) const
@@ -200,23 +213,6 @@ QLineEdit* TestSession::enterField(QString const& name) const
     return field(name);
 }
 
-void TestSession::paste(QString const& text) const
-{
-    QGuiApplication::clipboard()->setText(text);
-    chooseCommand("EditPaste");
-}
-
-void TestSession::click(QString const& name, char const* in) const
-{
-    QTest::mouseClick(widget(name, in), Qt::LeftButton);
-}
-
-void TestSession::clickOnScreen(QString const& name) const
-{
-    QPoint const place = widget(name)->mapTo(window(), widget(name)->rect().center());
-    QTest::mouseClick(window()->windowHandle(), Qt::LeftButton, {}, place);
-}
-
 void TestSession::type(QString const& name, QString const& text, char const* in) const
 {
     widget(name, in)->setFocus();
@@ -241,44 +237,48 @@ void TestSession::play(QString const& acts) const
 {
     QList<QAction*> const items = menuItems();
     for (QString const& act : acts.split(u"; "_s)) {
-        QString const word = act.section(u' ', 0, 0), rest = act.section(u' ', 1);
-        auto const command = std::find_if(items.begin(), items.end(),
-                                          [&](QAction const* item) { return item->objectName() == act; });
+        QString const word = act.section(u' ', 0, 0);
+        QString const rest = act.section(u' ', 1);
+        auto const command = std::ranges::find(items, act, &QAction::objectName);
         if (word == "write"_L1) {
             setFields(rest);
         } else if (word == "focus"_L1) {
-            enterField(rest);
+            static_cast<void>(enterField(rest));
         } else if (word == "key"_L1) {
             QKeyCombination const key = QKeySequence(rest)[0];
             QTest::keyClick(QApplication::focusWidget(), key.key(), key.keyboardModifiers());
         } else if (word == "keys"_L1) {
             QTest::keyClicks(QApplication::focusWidget(), rest);
         } else if (word == "paste"_L1) {
-            paste(rest);
+            QGuiApplication::clipboard()->setText(rest);
+            play("EditPaste");
+        } else if (word == "compose"_L1 || word == "commit"_L1) {
+            QInputMethodEvent event(word == "compose"_L1 ? rest : QString(), {});
+            event.setCommitString(word == "commit"_L1 ? rest : QString());
+            QCoreApplication::sendEvent(QApplication::focusWidget(), &event);
+        } else if (word == "drop"_L1) {
+            Drop(widget(rest.section(u' ', 0, 0)), rest.section(u' ', 1));
+        } else if (word == "edit"_L1) {
+            auto* const spoken = QAccessible::queryAccessibleInterface(widget(rest.section(u' ', 0, 0)));
+            spoken->setText(QAccessible::Value, rest.section(u' ', 1));
+            QCoreApplication::processEvents(); // it is answered first
         } else if (act.contains(u'=')) {
             type(act.section(u'=', 0, 0), act.section(u'=', 1).replace(u" Return"_s, u"\n"_s));
         } else if (command != items.end()) {
             (*command)->trigger();
             QCoreApplication::processEvents(); // without a key or click it runs a moment later
         } else {
-            click(act);
+            QTest::mouseClick(widget(act), Qt::LeftButton);
         }
     }
 }
 
-void CheckScenario()
+void CheckScenario(QString const& before)
 {
     QFETCH(Scenario const*, row);
     TestSession const session(row->boxes);
-    session.play(row->acts);
+    session.play(before + row->acts);
     session.expectFields(row->fields);
-}
-
-void SendInputMethod(QLineEdit* field, char const* commit, char const* composing)
-{
-    QInputMethodEvent event(QString::fromUtf8(composing), {});
-    event.setCommitString(QString::fromUtf8(commit));
-    QCoreApplication::sendEvent(field, &event);
 }
 
 QByteArray ContentOf(QString const& path)

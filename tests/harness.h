@@ -19,6 +19,11 @@ inline constexpr char const* kTooManyMissed =
 inline constexpr char const* kScaleRepaired =
     "An attempt was made to fix the grading scale. You should check "
     "these modifications before saving the settings.";
+inline constexpr char const* kPointsAreFixed =
+    "To change the number of points, you must first reset the current data.";
+inline constexpr char const* kDeletesData =
+    "You are about to change the grading scale in the middle of entering grades. This will cause Gradeloom to "
+    "delete the data you have entered so far. Are you sure you want to do this?";
 inline constexpr char const* kTallyFields = "agrade bgrade cgrade dgrade fgrade";
 inline constexpr char const* kHistoryLists = "ListBox1 ListBox2 ListBox3 ListBox4 ListBox5";
 
@@ -47,9 +52,8 @@ public:
 
     void expectBox(std::string const& text, int answer = 0) { expectedBoxes_.push_back({text, answer}); }
     [[nodiscard]] bool allBoxesSeen() const { return expectedBoxes_.empty(); }
-    /// From now on boxes, or dialogs, are the real ones of the desktop.
-    static void useRealMessageBoxes();
-    static void useRealDialogs();
+    /// From now on boxes and dialogs are the real ones of the desktop.
+    static void useRealDoors();
 
     [[nodiscard]] class mainscreen& form() const { return ::mainscreen(); }
     [[nodiscard]] QMainWindow* window(char const* name = "mainscreen") const;
@@ -85,12 +89,9 @@ public:
     /// Brings the window to the front and waits until it is active.
     void activate(char const* name = "mainscreen") const;
     /// Moves the focus to a control as Tab does; its GotFocus has been raised when this returns.
-    QLineEdit* enterField(QString const& name) const;
+    [[nodiscard]] QLineEdit* enterField(QString const& name) const;
     void chooseCommand(QString const& item) const { play(item); }
-    void paste(QString const& text) const;
-    void click(QString const& name, char const* in = "mainscreen") const;
-    /// Clicks as the desktop reports it: to the window, which passes it on to what is under the pointer.
-    void clickOnScreen(QString const& name) const;
+    void click(QString const& name) const { play(name); }
     /// Replaces a field's text by typing, key by key; a line end is a press of Return.
     void type(QString const& name, QString const& text, char const* in = "mainscreen") const;
     /// Types the number of points, then each number missed with Return.
@@ -100,7 +101,9 @@ public:
     /// Carries acts out in their order, separated by "; ":
     ///   missed=3     types into the field, "missed=3 Return" presses Return then
     ///   EditUndo     chooses the command of that name, or else clicks the control
-    ///   focus amin   enters the field; key Left, keys 96 and paste 12 act on the focused one
+    ///   focus amin   enters the field; key Left, keys 96 and paste 12 act on the focused one, and so do compose 9
+    ///                and commit 9 of an input method
+    ///   drop amax 6  drops a text on the field; edit amax 6 sets it as an assistive program does
     ///   write amin=80 amax=97   writes as the program does
     void play(QString const& acts) const;
 
@@ -136,12 +139,10 @@ void AddRows(Row const (&table)[count])
     }
 }
 
-/// Plays the scenario of the current row.
-void CheckScenario();
+/// Plays the scenario of the current row after these acts, if any.
+void CheckScenario(QString const& before = {});
 /// Lets the program run once more in this process, after it has ended.
 void StartAgain();
-/// Sends what an input method sends: text to insert, and text still in composition.
-void SendInputMethod(QLineEdit* field, char const* commit, char const* composing = "");
 /// What a file holds, with the platform's line ends as "\n". On Windows any other line end shows as "!\n".
 QByteArray ContentOf(QString const& path);
 void WriteFile(QString const& path, QByteArray const& bytes);

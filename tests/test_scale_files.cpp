@@ -4,7 +4,6 @@
 #include "platform/files.h"
 
 #include <QDir>
-#include <QStandardPaths>
 
 using namespace std::string_literals;
 
@@ -23,14 +22,14 @@ struct Save {
     char const* afterwards;
     bool isSaved;
 } const kSaves[] = {
-    {"a sound scale",             "foundaproblem=",  {},                        "dminusmin=60",  true },
-    {"an earlier repair",         "foundaproblem=1", {},                        "dminusmin=60",  false},
-    {"a repair by this press",    "amin=80",         {{kScaleRepaired}},        "dminusmin=60",  false},
-    {"a fraction is rounded",     "dminusmin=59.6",  {},                        "dminusmin=60",  true },
-    {"an exponent counts",        "dminusmin=6e1",   {},                        "dminusmin=60",  true },
-    {"rounded it is not below 0", "dminusmin=-0.4",  {},                        "dminusmin=0",   true },
-    {"rounded it is below 0",     "dminusmin=-0.5",  {{kTooLow}},               "dminusmin=-1",  false},
-    {"the repair ends below 0",   "aplusmin=10",     {{kScaleRepaired}, {kTooLow}}, "dminusmin=-12", false},
+    {"a sound scale", "foundaproblem=", {}, "dminusmin=60", true},
+    {"an earlier repair", "foundaproblem=1", {}, "dminusmin=60", false},
+    {"a repair by this press", "amin=80", {{kScaleRepaired}}, "dminusmin=60", false},
+    {"a fraction is rounded", "dminusmin=59.6", {}, "dminusmin=60", true},
+    {"an exponent counts", "dminusmin=6e1", {}, "dminusmin=60", true},
+    {"rounded it is not below 0", "dminusmin=-0.4", {}, "dminusmin=0", true},
+    {"rounded it is below 0", "dminusmin=-0.5", {{kTooLow}}, "dminusmin=-1", false},
+    {"the repair ends below 0", "aplusmin=10", {{kScaleRepaired}, {kTooLow}}, "dminusmin=-12", false},
 };
 
 QByteArray const kScaleFile = QByteArray(kDefaultFile).replace("98\n97", "96\n95").replace("62\n60", "62\n61");
@@ -39,12 +38,9 @@ struct Form {
     char const* name;
     QByteArray bytes;
 } const kForms[] = {
-    {"LF", kScaleFile},
-    {"CR LF", QByteArray(kScaleFile).replace("\n", "\r\n")},
-    {"CR", QByteArray(kScaleFile).replace("\n", "\r")},
-    {"a byte order mark", "\xEF\xBB\xBF" + kScaleFile},
-    {"no line end at the end", kScaleFile.chopped(1)},
-    {"more than 24 lines", kScaleFile + "12\n"},
+    {"LF", kScaleFile}, {"CR LF", QByteArray(kScaleFile).replace("\n", "\r\n")},
+    {"CR", QByteArray(kScaleFile).replace("\n", "\r")}, {"a byte order mark", "\xEF\xBB\xBF" + kScaleFile},
+    {"no line end at the end", kScaleFile.chopped(1)}, {"more than 24 lines", kScaleFile + "12\n"},
     {"a long rest", kScaleFile + QByteArray(1'000'000, '\n')},
     {"a CR LF that two reads share", "100" + QByteArray(4096 - 4, ' ') + "\r\n" + kScaleFile.mid(4)}, // 4096 a read
     {"a line of just 64 KiB", "100" + QByteArray(65536 - 3, ' ') + '\n' + kScaleFile.mid(4)},
@@ -60,11 +56,6 @@ struct Start {
     {"an unsound scale is repaired", QByteArray(kDefaultFile).replace("93\n92", "93\n91"), {{kScaleRepaired}}, "1"},
     {"a file that can't be read is ignored", QByteArray(65537, '1'), {}, ""},
 };
-
-struct NoScale {
-    char const* name;
-    QByteArray bytes;
-} const kNoScales[] = {{"empty", ""}, {"words", "a\nfew\nwords\n"}, {"zero bytes", "1\0000\0\n\0"_ba}};
 // clang-format on
 
 QString Preferences()
@@ -81,20 +72,10 @@ class ScaleFiles final : public QObject {
 private slots:
     void init() { QFile::remove(Preferences()); }
 
-    void thePreferencesAreInTheProgramsOwnFolderOfSettings()
-    {
-        QString const settings = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-        QCOMPARE(Preferences(), settings + "/gradeloom/Preferences"_L1);
-    }
-
     void aSavedScaleIsThereAtTheNextStart()
     {
         QDir(QFileInfo(Preferences()).path()).removeRecursively(); // the first save makes the folder
-        {
-            TestSession const session;
-            session.setFields("aplusmin=95.5 amax=94.5");
-            session.click("PushButton4");
-        }
+        TestSession().play("write aplusmin=95.5 amax=94.5; PushButton4");
         QCOMPARE(ContentOf(Preferences()), QByteArray(kDefaultFile).replace("98\n97", "95.5\n94.5"));
         TestSession const session;
         session.expectScale("100 95.5 94.5");
@@ -135,24 +116,10 @@ private slots:
         QCOMPARE(QFile::exists(session.fileToChoose), row->isSaved);
     }
 
-    void afterARefusedSaveTheNextOneSaves()
-    {
-        TestSession const session({{kScaleRepaired}});
-        session.setFields("amin=80");
-        session.click("PushButton4");
-        session.click("PushButton4");
-        QVERIFY(ContentOf(Preferences()).startsWith("100\n98\n97\n80\n79\n"));
-    }
-
     void aNamedScaleComesBackAsItWasWritten()
     {
         TestSession session;
-        session.enterScores("40", {"4"}); // a scale can be saved under entries, but not opened
-        session.expectBox(
-            "In order to change the current grading scale, you must first reset the data that has already "
-            "been entered.");
-        session.chooseCommand("FileOpen");
-        QVERIFY(session.dialogs.empty());
+        session.enterScores("40", {"4"}); // a scale can be saved under entries
         session.setFields("aplusmin=92.5 amax=91.5 amin=91 aminusmax=90");
         session.form().aplusmax().Text(" 100 points");
         session.fileToChoose = session.pathOf("mine");
@@ -166,7 +133,8 @@ private slots:
         TestSession const session;
         session.play("PushButton2; FileOpen"); // both cancelled
         QCOMPARE(session.dialogs.size(), std::size_t(2));
-        FileDialogRequest const &save = session.dialogs[0], &open = session.dialogs[1];
+        FileDialogRequest const& save = session.dialogs[0];
+        FileDialogRequest const& open = session.dialogs[1];
         QVERIFY(save.saving && save.title == "Save your file" && save.prompt == "Enter a filename");
         QVERIFY(save.suggestedName == "AlternativeGradingScale" && !save.folder.empty());
         QVERIFY(!open.saving && open.title == "Select a Grading Scale" && QDir(save.folder.c_str()).exists());
@@ -189,9 +157,8 @@ private slots:
     void onlyTheFirstLineLosesItsByteOrderMark()
     {
         QTemporaryDir const folder;
-        WriteFile(folder.filePath("marks"), "\xEF\xBB\xBF"
-                                            "98\n\xEF\xBB\xBF\xEF\xBB\xBF"
-                                            "97\n93\0\xFF"_ba);
+        QByteArray const mark = "\xEF\xBB\xBF";
+        WriteFile(folder.filePath("marks"), mark + "98\n" + mark + mark + "97\n93\0\xFF"_ba);
         std::string fault;
         auto const stream = FolderItem(folder.filePath("marks").toStdString()).OpenAsTextFile(fault);
         QCOMPARE(stream->ReadLine(), "98"s);
@@ -200,19 +167,19 @@ private slots:
         QVERIFY(stream->ReadLine().empty() && stream->Fault().empty()); // past the end
     }
 
-    void aFileOfAnythingIsRepairedAndNotSaved_data() { AddRows(kNoScales); }
     void aFileOfAnythingIsRepairedAndNotSaved()
     {
-        QFETCH(NoScale const*, row);
         TestSession session;
         session.fileToChoose = session.pathOf("scale");
-        WriteFile(session.fileToChoose, row->bytes);
-        session.expectBox(kScaleRepaired);
-        session.chooseCommand("FileOpen");
-        session.expectFields("aplusmax=100 foundaproblem=");
-        session.expectBox(kTooLow);
-        session.click("PushButton4");
-        QVERIFY(!QFile::exists(Preferences()));
+        for (QByteArray const& bytes : {""_ba, "a\nfew\nwords\n"_ba, "1\0000\0\n\0"_ba}) {
+            WriteFile(session.fileToChoose, bytes);
+            session.expectBox(kScaleRepaired);
+            session.chooseCommand("FileOpen");
+            session.expectFields("aplusmax=100 foundaproblem=");
+            session.expectBox(kTooLow);
+            session.click("PushButton4");
+            QVERIFY(session.allBoxesSeen() && !QFile::exists(Preferences()));
+        }
     }
 
     void aFailedSaveIsReportedAndTheNextOneWorks()
@@ -230,12 +197,17 @@ private slots:
         QCOMPARE(ContentOf(session.fileToChoose), kDefaultFile);
     }
 
-    void aFolderInThePlaceOfThePreferencesIsReported()
+    void aFolderOrAFileInThePlaceOfThePreferencesIsReported()
     {
-        TestSession const session({{"The file \"Preferences\" could not be saved: it is not a plain file."}});
+        TestSession session({{"The file \"Preferences\" could not be saved: it is not a plain file."}});
+        QString const folder = QFileInfo(Preferences()).path();
         QVERIFY(QDir().mkpath(Preferences()));
         session.click("PushButton4");
-        QVERIFY(QDir().rmdir(Preferences()));
+        QVERIFY(QDir(folder).removeRecursively());
+        WriteFile(folder, "");
+        session.expectBox("The file \"Preferences\" could not be saved: its folder could not be made.");
+        session.click("PushButton4");
+        QVERIFY(QFile::remove(folder) && QDir().mkpath(folder));
     }
 
     void aNoticeEndsWithOneFullStopWhateverTheSystemSays()
@@ -250,17 +222,6 @@ private slots:
             ReportNotOpened(FolderItem("mine"), reason);
             QCOMPARE(told, "The file \"mine\" could not be opened: Path not found."_L1);
         }
-    }
-
-    void aFileInThePlaceOfTheSettingsFolderIsReported()
-    {
-        TestSession const session(
-            {{"The file \"Preferences\" could not be saved: its folder could not be made."}});
-        QString const folder = QFileInfo(Preferences()).path();
-        QDir(folder).removeRecursively();
-        WriteFile(folder, "");
-        session.click("PushButton4");
-        QVERIFY(QFile::remove(folder) && QDir().mkpath(folder));
     }
 };
 
