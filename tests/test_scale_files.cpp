@@ -60,7 +60,8 @@ struct Start {
 
 QString Preferences()
 {
-    return QString::fromStdString(GetFolderItem("Preferences", 0)->Path());
+    auto const file = GetFolderItem("Preferences", 0);
+    return file ? QString::fromStdString(file->Path()) : QString();
 }
 
 } // namespace
