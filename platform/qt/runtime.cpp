@@ -44,6 +44,7 @@ std::optional<int> AnswerCommandLine(int count, char const* const* arguments)
         i += 2;
     }
     if (i < count) {
+        UseStartersConsole();
         std::string_view const argument = arguments[i];
         if (argument == "--version") {
             std::cout << PROGRAM_NAME " " PROGRAM_VERSION "\n";
@@ -66,7 +67,6 @@ std::optional<int> AnswerCommandLine(int count, char const* const* arguments)
 
 void RuntimeInit(int count, char const* const* arguments)
 {
-    UseStartersConsole();
     if (std::optional<int> const status = AnswerCommandLine(count, arguments)) {
         std::exit(*status);
     }
@@ -114,6 +114,7 @@ void _InstallExceptionHelper(std::function<void(std::string_view reason)> helper
 
 void _UnhandledException(std::exception_ptr const& exception)
 {
+    UseStartersConsole();
     std::cerr << PROGRAM_NAME << ": " << ReasonOf(exception) << '\n';
     Runtime::instance().exitStatus = 1;
 }
