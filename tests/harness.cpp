@@ -18,12 +18,6 @@
 
 namespace {
 
-#ifdef Q_OS_WIN
-constexpr bool kIsWindows = true;
-#else
-constexpr bool kIsWindows = false;
-#endif
-
 // These two alone know the inside of the layer over the desktop.
 void WriteByProgram(QWidget* field, QString const& text)
 {

@@ -13,6 +13,12 @@
 
 using namespace Qt::StringLiterals;
 
+#ifdef Q_OS_WIN
+inline constexpr bool kIsWindows = true;
+#else
+inline constexpr bool kIsWindows = false;
+#endif
+
 inline constexpr char const* kNeedsPoints = "You must enter a positive value for the Number of Points.";
 inline constexpr char const* kTooManyMissed =
     "The number missed should not exceed the total number of points.";

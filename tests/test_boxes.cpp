@@ -151,7 +151,8 @@ private slots:
         int boxes = 0;
         QTimer closer;
         connect(&closer, &QTimer::timeout, this, [&boxes] {
-            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box != nullptr && box == QApplication::activeWindow()) { // no mouse clicks into it before
                 ++boxes;
                 QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
             }

@@ -97,9 +97,9 @@ class Reports final : public QObject {
 private slots:
     void everyWordOfTheReportIsInItsPlace_data()
     {
-#ifdef Q_OS_WIN
-        QSKIP("needs a program that reads PDF files back");
-#endif
+        if (kIsWindows) {
+            QSKIP("needs a program that reads PDF files back");
+        }
         QTest::addColumn<int>("entries");
         for (int const entries : {1, 40, 41, 80, 81, 120, 121, 160, 161}) {
             QTest::addRow("%d entries", entries) << entries;
@@ -187,6 +187,8 @@ private slots:
             auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
             QCOMPARE(dialog->windowTitle(), "Save your file"_L1);
             QCOMPARE(dialog->acceptMode(), QFileDialog::AcceptSave);
+            // Elsewhere the toolkit's own alone shows the prompt.
+            QCOMPARE(dialog->testOption(QFileDialog::DontUseNativeDialog), !kIsWindows);
             QCOMPARE(dialog->labelText(QFileDialog::FileName), "Enter a filename"_L1);
             QCOMPARE(QFileInfo(dialog->selectedFiles().value(0)).fileName(), "ExportedPercents"_L1);
             dialog->findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(session.pathOf("percents"));
@@ -198,6 +200,9 @@ private slots:
 
     void theRealPrintDialogLeadsToARealFile()
     {
+        if (kIsWindows) {
+            QSKIP("the print dialog is the system's own, which can't be driven from here");
+        }
         TestSession const session;
         TestSession::useRealDoors();
         session.enterScores("40", {"4"});

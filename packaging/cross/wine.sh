@@ -15,6 +15,8 @@ set_wine_up() {
     home=$PWD/build/windows/home
     wine_settings=(HOME="$home" WINEPREFIX="$home/.wine" WINEDEBUG=-all
         WINEDLLOVERRIDES="mscoree,mshtml,winemenubuilder.exe=")
+    # A Wine that still runs, after a try that was broken off, has another display or none.
+    env "${wine_settings[@]}" wineserver -k 2>/dev/null || true
     if [[ -f $home/ready ]]; then return; fi
     rm -rf "$home"
     mkdir -p "$home/Documents"

@@ -41,6 +41,10 @@ std::optional<int> AnswerCommandLine(int count, char const* const* arguments)
     // A desktop restarts the program with "-session" and the session's name, which there is no use for.
     for (int i = 1; i < count; i += 2) {
         std::string_view const argument = arguments[i];
+        if (argument == "-session") {
+            continue;
+        }
+        UseStartersConsole();
         if (argument == "--version") {
             std::cout << PROGRAM_NAME " " PROGRAM_VERSION "\n";
             return EXIT_SUCCESS;
@@ -52,10 +56,8 @@ std::optional<int> AnswerCommandLine(int count, char const* const* arguments)
                          "  --version  show the version and end\n";
             return EXIT_SUCCESS;
         }
-        if (argument != "-session") {
-            std::cerr << PROGRAM_NAME ": unknown argument \"" << argument << "\"; see --help\n";
-            return 2;
-        }
+        std::cerr << PROGRAM_NAME ": unknown argument \"" << argument << "\"; see --help\n";
+        return 2;
     }
     return std::nullopt;
 }
@@ -64,7 +66,6 @@ std::optional<int> AnswerCommandLine(int count, char const* const* arguments)
 
 void RuntimeInit(int count, char const* const* arguments)
 {
-    UseStartersConsole();
     if (std::optional<int> const status = AnswerCommandLine(count, arguments)) {
         std::exit(*status);
     }
@@ -112,6 +113,7 @@ void _InstallExceptionHelper(std::function<void(std::string_view reason)> helper
 
 void _UnhandledException(std::exception_ptr const& exception)
 {
+    UseStartersConsole();
     std::cerr << PROGRAM_NAME << ": " << ReasonOf(exception) << '\n';
     Runtime::instance().exitStatus = 1;
 }

@@ -14,7 +14,8 @@ extern char const* const kLineEnd;
 QString FlushToDisk(int handle);
 
 /// Lets standard output and error appear on the console that started the program, on systems that detach programs
-/// with windows from it. Streams that lead to a file or a pipe stay as they are.
+/// with windows from it. Streams that lead to a file or a pipe stay as they are. Only for a program that is about to
+/// end: Ctrl+C on that console, meant for another program there, ends this one too, and so does closing it.
 void UseStartersConsole();
 
 /// Calls back from the event loop when the system asks the program to end, and makes a file that grows past the

@@ -2,6 +2,7 @@
 
 #include "platform/qt/widgets/held_keys.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
 
@@ -33,9 +34,12 @@ void QuietBox::showEvent(QShowEvent* event)
 {
     quiet_.start();
     QMessageBox::showEvent(event);
-#ifndef Q_OS_WIN // where the toolkit itself sounds the bell
-    QApplication::beep();
+#ifdef Q_OS_WIN // where the toolkit sounds the bell as long as an assistive program listens
+    if (QAccessible::isActive()) {
+        return;
+    }
 #endif
+    QApplication::beep();
 }
 
 /// Sees the events of the whole application: while the box is open every key is meant for it.
