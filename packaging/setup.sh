@@ -10,6 +10,12 @@ style_packages=(adwaita-qt6 qt6-gtk-platformtheme kde-style-breeze) # of other d
 deb_packages=(debhelper librsvg2-bin)
 check_packages=(clang clang-format-19 clang-tidy-19 shellcheck lintian desktop-file-utils appstream
     g++-mingw-w64-x86-64-posix)
+# libFuzzer of the Clang that the release has, which only recommends it.
+fuzz_packages=(clang)
+case $(sed -n 's/^VERSION_ID="*\([0-9]*\).*/\1/p' /etc/os-release 2>/dev/null) in
+    12) fuzz_packages+=(libclang-rt-14-dev) ;;
+    *) fuzz_packages+=(libclang-rt-19-dev) ;;
+esac
 wayland_packages=(qt6-wayland)
 brew_formulas=(cmake ninja qt poppler)
 

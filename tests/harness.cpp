@@ -1,5 +1,6 @@
 #include "tests/harness.h"
 
+#include "platform/files.h"
 #include "platform/qt/system/runtime_object.h"
 #include "platform/qt/widgets/line_edit.h"
 #include "platform/runtime.h"
@@ -275,6 +276,12 @@ void CheckScenario(QString const& before)
     session.expectFields(row->fields);
 }
 
+QString PreferencesPath()
+{
+    auto const file = GetFolderItem("Preferences", 0);
+    return file ? QString::fromStdString(file->Path()) : QString();
+}
+
 QByteArray ContentOf(QString const& path)
 {
     QFile file(path);
@@ -292,9 +299,9 @@ void WriteFile(QString const& path, QByteArray const& bytes)
     QCOMPARE(file.write(bytes), bytes.size());
 }
 
-int RunTests(QObject& tests, int count, char** arguments)
+void StartTests()
 {
-    QTemporaryDir const home; // no test meets the files of a user or of another test
+    static QTemporaryDir const home; // no test meets the files of a user or of another test
     qputenv("HOME", QFile::encodeName(home.path()));
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         // This neither needs a display nor takes a developer's keyboard.
@@ -307,6 +314,11 @@ int RunTests(QObject& tests, int count, char** arguments)
     if (kIsWindows) {                                        // where the settings don't move with HOME
         QDir(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation)).removeRecursively();
     }
+}
+
+int RunTests(QObject& tests, int count, char** arguments)
+{
+    StartTests();
     int const failures = QTest::qExec(&tests, count, arguments);
     RuntimePerformFinalizers();
     return failures;

@@ -149,9 +149,13 @@ void AddRows(Row const (&table)[count])
 void CheckScenario(QString const& before = {});
 /// Lets the program run once more in this process, after it has ended.
 void StartAgain();
+/// The scale file that is read at the start.
+QString PreferencesPath();
 /// What a file holds, with the platform's line ends as "\n". On Windows any other line end shows as "!\n".
 QByteArray ContentOf(QString const& path);
 void WriteFile(QString const& path, QByteArray const& bytes);
+/// Starts the toolkit for tests, with an empty home.
+void StartTests();
 int RunTests(QObject& tests, int count, char** arguments);
 
 #define GRADELOOM_TEST(Class)                                                                                \

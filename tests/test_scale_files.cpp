@@ -58,12 +58,6 @@ struct Start {
 };
 // clang-format on
 
-QString Preferences()
-{
-    auto const file = GetFolderItem("Preferences", 0);
-    return file ? QString::fromStdString(file->Path()) : QString();
-}
-
 } // namespace
 
 /// The standing scale, scales under a name, and the checks that both saves make.
@@ -71,13 +65,13 @@ class ScaleFiles final : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { QFile::remove(Preferences()); }
+    void init() { QFile::remove(PreferencesPath()); }
 
     void aSavedScaleIsThereAtTheNextStart()
     {
-        QDir(QFileInfo(Preferences()).path()).removeRecursively(); // the first save makes the folder
+        QDir(QFileInfo(PreferencesPath()).path()).removeRecursively(); // the first save makes the folder
         TestSession().play("write aplusmin=95.5 amax=94.5; PushButton4");
-        QCOMPARE(ContentOf(Preferences()), QByteArray(kDefaultFile).replace("98\n97", "95.5\n94.5"));
+        QCOMPARE(ContentOf(PreferencesPath()), QByteArray(kDefaultFile).replace("98\n97", "95.5\n94.5"));
         TestSession const session;
         session.expectScale("100 95.5 94.5");
         session.expectFields("foundaproblem=");
@@ -87,7 +81,7 @@ private slots:
     void whatIsWrongAtTheStartIsSetRepairedOrIgnored()
     {
         QFETCH(Start const*, row);
-        WriteFile(Preferences(), row->bytes);
+        WriteFile(PreferencesPath(), row->bytes);
         TestSession const session(row->boxes);
         session.expectScale(kDefaultScale);
         session.expectFields("foundaproblem="_L1 + row->mark);
@@ -113,7 +107,7 @@ private slots:
             session.expectFields(row->afterwards);
             session.expectFields("foundaproblem=");
         }
-        QCOMPARE(QFile::exists(Preferences()), row->isSaved);
+        QCOMPARE(QFile::exists(PreferencesPath()), row->isSaved);
         QCOMPARE(QFile::exists(session.fileToChoose), row->isSaved);
     }
 
@@ -179,7 +173,7 @@ private slots:
             session.expectFields("aplusmax=100 foundaproblem=");
             session.expectBox(kTooLow);
             session.click("PushButton4");
-            QVERIFY(session.allBoxesSeen() && !QFile::exists(Preferences()));
+            QVERIFY(session.allBoxesSeen() && !QFile::exists(PreferencesPath()));
         }
     }
 
@@ -201,8 +195,8 @@ private slots:
     void aFolderOrAFileInThePlaceOfThePreferencesIsReported()
     {
         TestSession session({{"The file \"Preferences\" could not be saved: it is not a plain file."}});
-        QString const folder = QFileInfo(Preferences()).path();
-        QVERIFY(QDir().mkpath(Preferences()));
+        QString const folder = QFileInfo(PreferencesPath()).path();
+        QVERIFY(QDir().mkpath(PreferencesPath()));
         session.click("PushButton4");
         QVERIFY(QDir(folder).removeRecursively());
         WriteFile(folder, "");

@@ -1,0 +1,209 @@
+#include "tests/invariants.h"
+
+#include <QDir>
+#include <QPrinter>
+#include <QRegularExpression>
+
+#include <iostream>
+#include <random>
+
+namespace {
+
+// clang-format off
+// What is drawn from, with its weight. In an act %f is a field, %n a small number, %t a text, %o one that can't be
+// typed, %k a key.
+struct Draw {
+    int weight;
+    char const* act;
+} const kActs[] = {
+    {50, "missed=%n Return"}, {6, "total=2%n"}, {4, "%f=%t"}, {8, "key %k"}, {4, "key Return"}, {6, "focus %f; key %k"},
+    {2, "paste %o"}, {3, "drop %f %o"}, {3, "edit %f %o"}, {3, "focus %f; commit %o"}, {3, "focus %f; compose %t"},
+    {6, "EditUndo"}, {3, "checkcorrect"}, {2, "correct=%n Return"}, {2, "PushButton1"}, {2, "PushButton2"},
+    {2, "PushButton3"}, {2, "PushButton4"}, {2, "FileOpen"}, {2, "FileExport"}, {2, "FilePrint"}, {2, "filepresent"},
+    {2, "About"}, {1, "EditClear"}, {1, "BevelButton1"}, {1, "key Ctrl+R"}, {1, "key Ctrl+W"}, {1, "key Ctrl+Q"},
+}, kActsElsewhere[] = {{4, "keys %n"}, {4, "key %k"}, {2, "paste %o"}, {1, "filepresent"}, {1, "key Ctrl+W"}};
+char const* const kFields = "total missed correct percentage EditField1 aplusmax aplusmin amax amin aminusmin bmin cplusmax dmin "
+    "dminusmax dminusmin";
+char const* const kTexts = "0 -3 0.5 37.5 64.1 92.5 -0.4 1,000 7,5 1e3 1e309 100 x 99999999999999999999";
+char const* const kOthers = "64.1 93 x\ny 12\n ٣٥ ９９．５";
+char const* const kKeys = "Tab Shift+Tab Space Return Backspace Del Esc Left Shift+Left Shift+Down Down Home PgUp F5 Alt+X "
+    "Ctrl+A Ctrl+X Ctrl+C Ctrl+V Ctrl+Z Ctrl+Z Ctrl+Y Ctrl+E Ctrl+O Ctrl+P Ctrl+T 1 9 . -";
+char const* const kFiles = "scale percents report.pdf missing/scale";
+// clang-format on
+
+/// Random acts over all windows, with every box and dialog answered at random and files changed by others.
+class Storm {
+public:
+    explicit Storm(unsigned seed) : random_(seed) { start(); }
+
+    /// Carries the next act out and checks all that must hold after it.
+    void act();
+    [[nodiscard]] QStringList const& course() const { return course_; }
+    [[nodiscard]] QString summary() const
+    {
+        return u"%1 entries, %2 boxes, %3 files written, %4 starts"_s.arg(entries_)
+            .arg(boxes_)
+            .arg(files_)
+            .arg(starts_);
+    }
+
+private:
+    /// The generator's numbers are the same on every platform, those of the library's distributions are not.
+    int below(int count) { return static_cast<int>(random_() % static_cast<unsigned>(count)); }
+    QString any(char const* texts)
+    {
+        QStringList const all = QString::fromUtf8(texts).split(u' ');
+        return all[below(static_cast<int>(all.size()))];
+    }
+    QString anyText() { return below(4) != 0 ? QString::number(below(110)) : any(kTexts); }
+    QString anyPath()
+    {
+        return below(5) == 0 ? PreferencesPath() : session_->pathOf(qPrintable(any(kFiles)));
+    }
+    template <std::size_t count>
+    QString anyAct(Draw const (&acts)[count]);
+    void start();
+    void openDoors();
+    void changeFile();
+
+    std::mt19937 random_;
+    std::unique_ptr<TestSession> session_;
+    QStringList course_; ///< the last acts
+    int entries_ = 0, boxes_ = 0, files_ = 0, starts_ = 0;
+};
+
+template <std::size_t count>
+QString Storm::anyAct(Draw const (&acts)[count])
+{
+    int total = 0;
+    for (Draw const& draw : acts) {
+        total += draw.weight;
+    }
+    Draw const* drawn = acts;
+    for (int left = below(total) - drawn->weight; left >= 0; left -= drawn->weight) {
+        ++drawn;
+    }
+    QString act = QString::fromLatin1(drawn->act);
+    return act.replace(u"%f"_s, any(kFields))
+        .replace(u"%n"_s, QString::number(below(20)))
+        .replace(u"%t"_s, anyText())
+        .replace(u"%o"_s, any(kOthers))
+        .replace(u"%k"_s, any(kKeys));
+}
+
+/// A new main window, as at the next start of the program, which may bring its first notices.
+void Storm::start()
+{
+    ++starts_;
+    session_.reset();
+    StartAgain();
+    openDoors();
+    ::mainscreen();
+    session_ = std::make_unique<TestSession>();
+    openDoors();
+}
+
+void Storm::openDoors()
+{
+    PlatformDoors().messageBox = [this](auto const&) {
+        ++boxes_;
+        return below(8) == 0 ? kYes : kNo;
+    };
+    PlatformDoors().fileDialog = [this](auto const&) {
+        return below(8) == 0 ? std::nullopt : std::optional(anyPath().toStdString());
+    };
+    PlatformDoors().printDialog = [this](QPrinter& printer, auto&) {
+        printer.setOutputFileName(anyPath());
+        return below(4) != 0;
+    };
+}
+
+/// Another program removes a file, or puts a folder, a scale or anything else in its place.
+void Storm::changeFile()
+{
+    QString const path = anyPath();
+    QFile::remove(path);
+    QDir().rmdir(path);
+    int const kind = below(6);
+    QByteArray content(kind == 1 ? below(70000) : 0, static_cast<char>(below(256)));
+    for (int line = 0; kind > 1 && line < 20 + below(8); ++line) {
+        content +=
+            (kind < 4 ? anyText() : QString::number(100 - 4 * line)).toUtf8() + (kind == 2 ? "\r\n" : "\n");
+    }
+    QFile file(path);
+    if (kind == 0) {
+        QDir().mkdir(path);
+    } else if (!content.isEmpty() && file.open(QIODevice::WriteOnly)) {
+        file.write(content);
+    }
+}
+
+void Storm::act()
+{
+    QStringList const folders = {session_->pathOf(""), QFileInfo(PreferencesPath()).path()};
+    if (below(25) == 0) {
+        changeFile();
+    }
+    if (QApplication::focusWidget() == nullptr || below(3) == 0) {
+        session_->activate();
+    }
+    bool const isMain = QApplication::activeWindow() == session_->window();
+    State const before = State::now(*session_, folders);
+    course_ = course_.last(std::min<qsizetype>(course_.size(), 9)) +
+              QStringList(isMain ? anyAct(kActs) : anyAct(kActsElsewhere));
+    session_->play(course_.last());
+    QCoreApplication::processEvents();
+    if (session_->window() == nullptr) {
+        start();
+    }
+    State const now = State::now(*session_, folders);
+    entries_ += now.entries() > before.entries() ? 1 : 0;
+    files_ += now.files != before.files ? 1 : 0;
+    CheckState(now);
+    CheckStep(before, now);
+    if (isMain && course_.last().startsWith(u"missed="_s)) {
+        CheckGrading(before, now);
+    }
+}
+
+} // namespace
+
+/// The storm as one test; its length and its seed come from the command line.
+class StormTest final : public QObject {
+    Q_OBJECT
+
+public:
+    QString program;
+    int acts = 2000;
+    unsigned seed = 1;
+
+private slots:
+    void afterEachActAllHoldsThatMust()
+    {
+        QString const replay = u"%1 %2 %3"_s.arg(program).arg(acts).arg(seed);
+        std::cout << qPrintable(replay) << '\n' << std::flush; // at once: a crash leaves no other trace
+        QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
+        Storm storm(seed);
+        for (int act = 0; act < acts && !QTest::currentTestFailed(); ++act) {
+            storm.act();
+        }
+        std::cout << qPrintable(storm.summary()) << '\n';
+        QVERIFY2(!QTest::currentTestFailed(),
+                 qPrintable(u"after: %1\nagain: %2"_s.arg(storm.course().join(u"\n  "), replay)));
+    }
+};
+
+/// test_storm [ACTS [SEED]]: another number of acts draws a new seed, if none is stated.
+int main(int count, char** arguments)
+{
+    StormTest test;
+    test.program = QString::fromLocal8Bit(arguments[0]);
+    if (count > 1) {
+        test.acts = QString::fromLocal8Bit(arguments[1]).toInt();
+        test.seed = count > 2 ? QString::fromLocal8Bit(arguments[2]).toUInt() : std::random_device()();
+    }
+    qputenv("QTEST_FUNCTION_TIMEOUT", "2000000000"); // milliseconds: a long storm does not hang
+    return RunTests(test, 1, arguments);
+}
+
+#include "test_storm.moc"
