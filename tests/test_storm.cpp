@@ -10,18 +10,13 @@
 namespace {
 
 // clang-format off
-// What is drawn from, with its weight. In an act %f is a field, %n a small number, %t a text, %o one that can't be
-// typed, %k a key.
-struct Draw {
-    int weight;
-    char const* act;
-} const kActs[] = {
-    {50, "missed=%n Return"}, {6, "total=2%n"}, {4, "%f=%t"}, {8, "key %k"}, {4, "key Return"}, {6, "focus %f; key %k"},
-    {2, "paste %o"}, {3, "drop %f %o"}, {3, "edit %f %o"}, {3, "focus %f; commit %o"}, {3, "focus %f; compose %t"},
-    {6, "EditUndo"}, {3, "checkcorrect"}, {2, "correct=%n Return"}, {2, "PushButton1"}, {2, "PushButton2"},
-    {2, "PushButton3"}, {2, "PushButton4"}, {2, "FileOpen"}, {2, "FileExport"}, {2, "FilePrint"}, {2, "filepresent"},
-    {2, "About"}, {1, "EditClear"}, {1, "BevelButton1"}, {1, "key Ctrl+R"}, {1, "key Ctrl+W"}, {1, "key Ctrl+Q"},
-}, kActsElsewhere[] = {{4, "keys %n"}, {4, "key %k"}, {2, "paste %o"}, {1, "filepresent"}, {1, "key Ctrl+W"}};
+// What is drawn from; one half of the acts in the main window grade. In an act %f is a field, %n a small number, %t a
+// text, %o one that can't be typed, %k a key.
+char const* const kActs = "total=2%n|total=2%n|%f=%t|%f=%t|key %k|key %k|key %k|key Return|focus %f; key %k|focus %f; key %k|"
+    "paste %o|drop %f %o|edit %f %o|focus %f; commit %o|focus %f; compose %t|EditUndo|EditUndo|checkcorrect|correct=%n Return|"
+    "PushButton1|PushButton2|PushButton3|PushButton4|FileOpen|FileExport|FilePrint|filepresent|About|EditClear|%e";
+char const* const kActsElsewhere = "keys %n|keys %n|key %k|key %k|paste %o|filepresent|%e";
+char const* const kEnds = "BevelButton1|key Ctrl+R|key Ctrl+W|key Ctrl+Q|key Esc";
 char const* const kFields = "total missed correct percentage EditField1 aplusmax aplusmin amax amin aminusmin bmin cplusmax dmin "
     "dminusmax dminusmin";
 char const* const kTexts = "0 -3 0.5 37.5 64.1 92.5 -0.4 1,000 7,5 1e3 1e309 100 x 99999999999999999999";
@@ -50,9 +45,9 @@ public:
 private:
     /// The generator's numbers are the same on every platform, those of the library's distributions are not.
     int below(int count) { return static_cast<int>(random_() % static_cast<unsigned>(count)); }
-    QString any(char const* texts)
+    QString any(char const* texts, char16_t separator = u' ')
     {
-        QStringList const all = QString::fromUtf8(texts).split(u' ');
+        QStringList const all = QString::fromUtf8(texts).split(separator);
         return all[below(static_cast<int>(all.size()))];
     }
     QString anyText() { return below(4) != 0 ? QString::number(below(110)) : any(kTexts); }
@@ -60,8 +55,7 @@ private:
     {
         return below(5) == 0 ? PreferencesPath() : session_->pathOf(qPrintable(any(kFiles)));
     }
-    template <std::size_t count>
-    QString anyAct(Draw const (&acts)[count]);
+    QString anyAct(char const* acts);
     void start();
     void openDoors();
     void changeFile();
@@ -72,19 +66,11 @@ private:
     int entries_ = 0, boxes_ = 0, files_ = 0, starts_ = 0;
 };
 
-template <std::size_t count>
-QString Storm::anyAct(Draw const (&acts)[count])
+QString Storm::anyAct(char const* acts)
 {
-    int total = 0;
-    for (Draw const& draw : acts) {
-        total += draw.weight;
-    }
-    Draw const* drawn = acts;
-    for (int left = below(total) - drawn->weight; left >= 0; left -= drawn->weight) {
-        ++drawn;
-    }
-    QString act = QString::fromLatin1(drawn->act);
-    return act.replace(u"%f"_s, any(kFields))
+    return (acts == kActs && below(2) == 0 ? u"missed=%n Return"_s : any(acts, u'|'))
+        .replace(u"%e"_s, any(kEnds, u'|'))
+        .replace(u"%f"_s, any(kFields))
         .replace(u"%n"_s, QString::number(below(20)))
         .replace(u"%t"_s, anyText())
         .replace(u"%o"_s, any(kOthers))
@@ -150,7 +136,7 @@ void Storm::act()
     bool const isMain = QApplication::activeWindow() == session_->window();
     State const before = State::now(*session_, folders);
     course_ = course_.last(std::min<qsizetype>(course_.size(), 9)) +
-              QStringList(isMain ? anyAct(kActs) : anyAct(kActsElsewhere));
+              QStringList(anyAct(isMain ? kActs : kActsElsewhere));
     session_->play(course_.last());
     QCoreApplication::processEvents();
     if (session_->window() == nullptr) {
