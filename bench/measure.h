@@ -3,7 +3,7 @@
 #include <functional>
 #include <vector>
 
-// Each of these prints its figures. A ratio stands beside the most that it should be.
+// Each of these prints its figures. A ratio has the most that it should be beside it.
 
 void MeasureStart();
 void MeasureEntries();

@@ -14,7 +14,7 @@ class TopLevel;
 /// "-" is a separator. An item whose children have captions is a menu, any other is a command.
 class MenuItem {
 public:
-    /// "Cmd" in a shortcut stands for the platform's command key.
+    /// "Cmd" in a shortcut is the platform's command key.
     MenuItem(std::string_view name, std::string_view text, std::string_view shortcut);
     virtual ~MenuItem();
     MenuItem(MenuItem const&) = delete;

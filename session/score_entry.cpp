@@ -48,7 +48,7 @@ bool CheckPoints(class mainscreen& window)
 }
 
 /// Repairs the scale and checks the points; returns whether the press goes on. A repair that the user agreed to
-/// runs even without points, one that nobody was asked about does not.
+/// runs even without points, one without a question does not.
 bool PrepareScale(class mainscreen& window)
 {
     bool const wasInOrder = IsInOrder(ReadScale(window));

@@ -50,7 +50,7 @@ await_box() { # WHAT
 }
 
 # Presses keys on the box in front, and only then: a box takes no key before the keyboard has been quiet for half a
-# second. Nothing to be seen tells when that is over, so this is the one place where the tour waits for a time.
+# second. Nothing on the screen shows when that is over, so this is the one place where the tour waits for a time.
 press_on_box() { # KEY...
     sleep 0.6
     is_front "$box" || fail "the box was gone before it was answered"

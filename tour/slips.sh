@@ -47,7 +47,7 @@ default_scale_again() {
 
 # --- hands
 
-# Holds keys down, with the server's repeats, and lets go of them in the opposite order.
+# Holds keys down, with the server's repeats, and releases them in the opposite order.
 hold() { # SECONDS KEY...
     local seconds=$1 name down=() up=()
     shift
@@ -158,7 +158,7 @@ visit_layouts() {
     expect_papers 3
 }
 
-# A letter of several keys asks like any other, before it stands in the field, and not before it is complete.
+# A letter of several keys asks like any other, before it is in the field, and not before it is complete.
 type_e_acute() { # KEY...
     new_class 3 4 5
     go_to_amax

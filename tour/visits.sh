@@ -162,7 +162,7 @@ visit_save_scale() {
 
 # A key in a scale field asks before it throws the class away.
 visit_guard() {
-    step "a key in the scale while a class stands"
+    step "a key in the scale in the middle of a class"
     go_to amax
     key 5
     await_box "the question before the class is deleted"
@@ -267,7 +267,7 @@ bells() { grep -c 'window= 0x0, !event_only' build/tour/bells.log || true; }
 
 bells_are() { (($(bells) == $1)); }
 
-# The server is told of each bell; the first one is made here, to know that it is heard.
+# The server reports each bell; the first one is rung here, to know that the watch works.
 visit_bell() {
     step "the bell of a notice and of a question"
     echo 'Bell() printEvent' >"$home/bells"

@@ -136,7 +136,7 @@ void LineEdit::takeDrop(QString const& text, int position)
     }
 }
 
-/// An assistive program has set the text. What the user may not change is put back for good; elsewhere the edit
+/// An assistive program has set the text. What the user may not change is restored for good; elsewhere the edit
 /// is repeated a moment later as the user's own, once the other program has its answer.
 void LineEdit::redirectEdit()
 {
