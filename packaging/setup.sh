@@ -7,6 +7,8 @@ pdf_packages=(poppler-utils) # the tests and the tour read printed pages back
 tour_packages=(xvfb openbox xdotool xclip x11-utils x11-xkb-utils x11-xserver-utils imagemagick at-spi2-core
     dbus-daemon python3-gi gir1.2-atspi-2.0 "${pdf_packages[@]}")
 style_packages=(adwaita-qt6 qt6-gtk-platformtheme kde-style-breeze) # of other desktops, for checks alone
+wayland_packages=(qt6-wayland)
+sway_packages=(sway wtype wl-clipboard grim jq "${wayland_packages[@]}") # a Wayland desktop, for checks alone
 deb_packages=(debhelper librsvg2-bin)
 check_packages=(clang clang-format-19 clang-tidy-19 shellcheck lintian desktop-file-utils appstream
     g++-mingw-w64-x86-64-posix)
@@ -16,7 +18,6 @@ case $(sed -n 's/^VERSION_ID="*\([0-9]*\).*/\1/p' /etc/os-release 2>/dev/null) i
     12) fuzz_packages+=(libclang-rt-14-dev) ;;
     *) fuzz_packages+=(libclang-rt-19-dev) ;;
 esac
-wayland_packages=(qt6-wayland)
 brew_formulas=(cmake ninja qt poppler)
 
 say() { printf '%s: %s\n' "$me" "$*"; }

@@ -206,12 +206,16 @@ private slots:
         TestSession const session;
         TestSession::useRealDoors();
         session.enterScores("40", {"4"});
+        QString proposed;
         QTimer::singleShot(1, qApp, [&] {
             QWidget* const dialog = QApplication::activeModalWidget();
-            dialog->findChild<QLineEdit*>(u"filename"_s)->setText(session.pathOf("report.pdf"));
+            auto* const file = dialog->findChild<QLineEdit*>(u"filename"_s);
+            proposed = file->text();
+            file->setText(session.pathOf("report.pdf"));
             QMetaObject::invokeMethod(dialog, "accept");
         });
         session.chooseCommand("FilePrint");
+        QCOMPARE(QFileInfo(proposed).fileName(), "print.pdf"_L1);
         QVERIFY(ContentOf(session.pathOf("report.pdf")).startsWith("%PDF"));
     }
 };

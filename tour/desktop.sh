@@ -13,7 +13,7 @@ step() {
 
 fail() {
     echo "tour: FAILED at \"$now\": $*" >&2
-    [[ -z ${DISPLAY:-} ]] || import -window root build/tour/failure.png || true
+    photograph_screen || true
     tail -n 20 build/tour/*.log >&2
     exit 1
 }
@@ -38,7 +38,7 @@ await() {
 
 leave_desktop() {
     local process
-    for process in program "bell watch" "window manager" display "second program" "second display" "message bus"; do
+    for process in program "bell watch" "window manager" keyboard mouse display "second program" "second display" "message bus"; do
         [[ -n ${started[$process]:-} ]] || continue
         kill "${started[$process]}" 2>/dev/null || true
         wait "${started[$process]}" 2>/dev/null || true
@@ -87,6 +87,11 @@ has_style() { # THEME
         gtk3) [[ -e $plugins/platformthemes/libqgtk3.so ]] ;;
         *) compgen -G "$plugins/styles/*${1%-dark}*.so" >/dev/null ;;
     esac
+}
+
+has_wayland() {
+    type sway wtype wl-copy grim jq >/dev/null 2>&1 &&
+        compgen -G "$(qmake6 -query QT_INSTALL_PLUGINS)/platforms/libqwayland-*.so" >/dev/null
 }
 
 has_window_manager() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
@@ -143,4 +148,4 @@ end_program() { # COMMAND...
 }
 
 # Quits the program as a user does.
-quit_program() { end_program xdotool key ctrl+q; }
+quit_program() { end_program key ctrl+q; }

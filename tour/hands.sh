@@ -22,6 +22,8 @@ same_lines() { # WHAT EXPECTED SEEN
 # down some milliseconds after the last one went up: no hand is faster.
 key() { xdotool key --delay 4 "$@"; }
 
+type_text() { xdotool type --delay 4 "$1"; }
+
 enter() { xdotool type --delay 4 --args 1 "$1" key --delay 4 Return; }
 
 # --- windows
@@ -136,19 +138,21 @@ index_of() { # NAME
 go_to() { # NAME
     index_of "$1"
     ((at >= 0 && at <= index)) || click_total
-    for (( ; at < index; ++at)); do
-        key Tab
-    done
+    local tabs=()
+    for (( ; at < index; ++at)); do tabs+=(Tab); done
+    ((${#tabs[@]} == 0)) || key "${tabs[@]}"
 }
 
 clipboard() { timeout 5 xclip -selection clipboard -o 2>/dev/null; }
 clipboard_is() { [[ $(clipboard) == "$1" ]]; }
 clipboard_is_not() { [[ $(clipboard) != "$1" ]]; }
 
+to_clipboard() { xclip -selection clipboard >/dev/null 2>&1; }
+
 # Puts a mark on the clipboard, by which a copy is noticed.
 mark_clipboard() {
     mark="nothing was copied $((++marks))"
-    printf %s "$mark" | xclip -selection clipboard >/dev/null 2>&1
+    printf %s "$mark" | to_clipboard
     await "the mark on the clipboard" clipboard_is "$mark"
 }
 
@@ -171,6 +175,10 @@ expect_scale() { # 24 numbers
 
 # --- pictures
 
+photograph() { import -window "$1" "$2"; } # WINDOW FILE
+
+photograph_screen() { [[ -z ${DISPLAY:-} ]] || import -window root build/tour/failure.png; }
+
 # Leaves a picture of a window. It is done when two shots in a row are alike, show more than an empty surface and,
 # if a shot is named, differ from that one.
 picture() { # NAME WINDOW [UNLIKE]
@@ -181,7 +189,7 @@ picture() { # NAME WINDOW [UNLIKE]
 
 steady() { # FILE WINDOW UNLIKE
     local last=$shot
-    import -window "$2" "$1" || return 1
+    photograph "$2" "$1" || return 1
     shot=$(identify -format '%# %k' "$1")
     [[ $shot == "$last" && $shot != "$3" ]] && ((${shot#* } > 8))
 }

@@ -11,7 +11,7 @@ new_class() { # SCORE...
     local score
     key ctrl+r
     click_total
-    xdotool type --delay 4 40
+    type_text 40
     key Tab Delete
     for score; do enter "$score"; done
     at=-1
@@ -68,7 +68,7 @@ visit_held_keys() {
     hold 0.8 space
     expect_papers 12
     go_to missed
-    xdotool type --delay 4 45
+    type_text 45
     hold 1.5 Return
     await_box "the notice that refuses 45"
     answer_box Return
@@ -203,7 +203,7 @@ visit_menu_keys() {
     await_menu "the first menu" F10
     await_menu "the Edit menu" alt+e
     go_to missed
-    xdotool type --delay 4 5
+    type_text 5
     key super+7 alt+7 super+f Return
     expect_field lastmissed 5
 }
@@ -351,7 +351,7 @@ visit_notice_at_start() {
     launch_into_notice
     press_on_box Return
     await_form
-    xdotool type --delay 4 40
+    type_text 40
     key ctrl+a
     at=0
     expect_field total 40

@@ -36,7 +36,7 @@ visit_about() {
 visit_repair() {
     step "a scale that needs its repair"
     go_to amin
-    xdotool type 80
+    type_text 80
     click_save_settings
     await_box "the repair notice"
     picture repair "$box"
@@ -86,7 +86,7 @@ grade_papers() { # [COUNT]
     local how score
     mode=missed
     click_total
-    xdotool type 60
+    type_text 60
     while read -r how score _; do
         case $how in
             correct | missed) use_mode "$how" && enter "$score" ;;
@@ -178,7 +178,7 @@ visit_guard() {
     answer_box alt+y
     at=-1
     expect_field amax 9
-    xdotool type "${default_scale[2]}" # a sound scale again
+    type_text "${default_scale[2]}" # a sound scale again
 }
 
 # All results are empty: none of them gives anything to copy. The dialog that opens next shows that the program
@@ -248,7 +248,7 @@ visit_small_screen() {
     picture presenter-go "$presenter" "$shot"
     framed "$file-go.png" 60 "100x40+245+$menu_bar" || fail "no frame around the focused button"
     key Tab
-    xdotool type 7
+    type_text 7
     key ctrl+a
     expect_copy "the field, which Tab comes back to" 7
     key ctrl+w

@@ -11,6 +11,7 @@
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrintDialog>
@@ -22,6 +23,15 @@ namespace {
 
 constexpr double kUnitsPerInch = 72.0;
 constexpr int kFontHeight = 12;
+
+/// On X11 alone the toolkit proposes a file to print to; elsewhere it proposes a folder, and then refuses it.
+void ProposeFile(QPrintDialog const& dialog)
+{
+    auto* const file = dialog.findChild<QLineEdit*>(QStringLiteral("filename"));
+    if (file != nullptr && file->text().endsWith(QLatin1Char('/'))) {
+        file->setText(file->text() + QStringLiteral("print.pdf"));
+    }
+}
 
 } // namespace
 
@@ -134,6 +144,7 @@ bool ShowPrintDialog(QPrinter& printer, std::string& fault)
         return false;
     }
     QPrintDialog dialog(&printer, TopLevel::front());
+    ProposeFile(dialog);
     return RunDialog(dialog) == QDialog::Accepted;
 }
 
