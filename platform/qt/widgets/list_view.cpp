@@ -38,6 +38,7 @@ void ListView::takeRows()
 {
     if (model() == nullptr) {
         horizontalHeader()->setModel(rows_);
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call): past the vertical header
         QAbstractItemView::setModel(rows_);
         connect(rows_, &ListModel::rowsRemoved, this, &ListView::updateGeometries);
         connect(rows_, &ListModel::modelReset, this, &ListView::updateGeometries);
@@ -47,6 +48,7 @@ void ListView::takeRows()
 /// The headers are hidden and need not know what is selected.
 void ListView::setSelectionModel(QItemSelectionModel* selection)
 {
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): past both headers
     QAbstractItemView::setSelectionModel(selection);
 }
 
