@@ -13,8 +13,8 @@
 
 #include <string_view>
 
-// The floor of a start: a window with the controls of the form's table, all stock ones, and a menu bar with as many
-// items as ours shows.
+// The floor of a start: a window with the controls of the form's table, all stock ones, hidden where ours are, and a
+// menu bar with as many items as ours shows.
 
 namespace {
 
@@ -22,9 +22,10 @@ constexpr struct {
     std::string_view type;
     char const* caption;
     int left, top, width, height;
+    bool isHidden;
 } kControls[] = {
 #define CONTROL(tab, type, name, caption, left, top, width, height, style)                                   \
-    {#type, caption, left, top, width, height},
+    {#type, caption, left, top, width, height, std::string_view(#style).starts_with("hidden")},
 #include "frame/mainscreen.def"
 };
 
@@ -79,8 +80,10 @@ int main(int count, char** arguments)
     window.setFixedSize(705, 460);
     auto* const content = new QWidget(&window);
     window.setCentralWidget(content);
-    for (auto const& [type, caption, left, top, width, height] : kControls) {
-        Stock(type, QString::fromUtf8(caption), content)->setGeometry(left, top, width, height);
+    for (auto const& [type, caption, left, top, width, height, isHidden] : kControls) {
+        QWidget* const control = Stock(type, QString::fromUtf8(caption), content);
+        control->setGeometry(left, top, width, height);
+        control->setVisible(!isHidden);
     }
     AddMenu(*window.menuBar());
     window.show();

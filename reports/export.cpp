@@ -19,8 +19,9 @@ bool mainscreen::_FileExport_Action()
     }
     TextOutputStream stream = item->CreateTextFile();
     Integer const entrycount = EntryCount(*this);
+    Listbox const& list = ListBox1();
     for (Integer row = 0; row < entrycount; ++row) {
-        stream.WriteLine(ListBox1().Cell(row, 1));
+        stream.WriteLine(list.Cell(row, 1));
     }
     ReportUnlessSaved(*item, stream.Close());
     return false;

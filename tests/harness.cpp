@@ -48,8 +48,10 @@ std::vector<std::pair<QString, QString>> NamesAndTexts(QString const& fields)
     return found;
 }
 
-QString RowsOf(QAbstractItemModel const& model)
+/// A list that has not been shown yet keeps its rows from the view.
+QString RowsOf(QTableView const& list)
 {
+    auto const& model = *list.findChild<QAbstractTableModel*>();
     QString rows;
     for (int i = 0; i < model.rowCount() * model.columnCount(); ++i) {
         int const column = i % model.columnCount();
@@ -147,7 +149,7 @@ QMainWindow* TestSession::window(char const* name) const
 QString TestSession::text(QString const& name, char const* in) const
 {
     auto const* const list = widget<QTableView>(name, in);
-    return list != nullptr ? RowsOf(*list->model()) : widget(name, in)->property("text").toString();
+    return list != nullptr ? RowsOf(*list) : widget(name, in)->property("text").toString();
 }
 
 QString TestSession::texts(QString const& names, char const* in) const

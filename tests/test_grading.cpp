@@ -177,6 +177,20 @@ private slots:
         QCOMPARE(bar->value(), bar->maximum());
     }
 
+    void aHiddenListShowsItsRowsOnceItIsMadeVisible()
+    {
+        TestSession const session;
+        session.play("total=30; missed=3 Return");
+        auto* const list = session.widget<QTableView>("ListBox4");
+        auto const rowAt = [&](int y) { return list->indexAt({1, y}).data().toString(); };
+        list->show();
+        QCOMPARE(rowAt(0), u"A-"_s);
+        session.play("missed=5 Return");
+        QCOMPARE(rowAt(16), u"B"_s);
+        list->selectRow(1);
+        QVERIFY(list->selectionModel()->isRowSelected(1));
+    }
+
     void bothResetsEmptyTheSession()
     {
         for (QString const& reset : {u"BevelButton1"_s, u"FileReset"_s}) {

@@ -39,7 +39,7 @@ void Listbox::Apply(ControlProperties const& properties)
 
 void Listbox::AddRow(std::string_view text)
 {
-    View(*this).rows().append(ToQt(text));
+    View(*this).rows().append(text);
     ShowLastRow(*this);
 }
 
@@ -66,13 +66,12 @@ std::string Listbox::List(std::int64_t row) const
 
 std::string Listbox::Cell(std::int64_t row, int column) const
 {
-    ListModel const& rows = View(*this).rows();
-    return FromQt(rows.data(rows.index(ToRow(row), column), Qt::DisplayRole).toString());
+    return View(*this).rows().text(ToRow(row), column);
 }
 
 void Listbox::Cell(std::int64_t row, int column, std::string_view text)
 {
-    View(*this).rows().setText(ToRow(row), column, ToQt(text));
+    View(*this).rows().setText(ToRow(row), column, text);
 }
 
 void Listbox::CellAlignment(std::int64_t row, int column, Alignment alignment)

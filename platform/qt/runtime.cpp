@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QStandardPaths>
 #include <QStyleHints>
 
 #include <cstdlib>
@@ -62,6 +63,17 @@ std::optional<int> AnswerCommandLine(int count, char const* const* arguments)
     return std::nullopt;
 }
 
+/// The icon from where it is installed. Asking for it by its name would read whole icon themes at every start.
+QIcon InstalledIcon()
+{
+    QIcon icon;
+    for (int const size : {16, 32, 48, 128}) {
+        QString const file = QStringLiteral("icons/hicolor/%1x%1/apps/" PROGRAM_NAME ".png").arg(size);
+        icon.addFile(QStandardPaths::locate(QStandardPaths::GenericDataLocation, file));
+    }
+    return icon;
+}
+
 } // namespace
 
 void RuntimeInit(int count, char const* const* arguments)
@@ -76,7 +88,7 @@ void RuntimePerformInitializers()
 {
     QApplication::setApplicationName(QStringLiteral(PROGRAM_NAME));
     QApplication::setDesktopFileName(QStringLiteral(PROGRAM_NAME));
-    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral(PROGRAM_NAME)));
+    QApplication::setWindowIcon(InstalledIcon());
     QApplication::setQuitOnLastWindowClosed(false); // Window::Close ends the process, on every platform
     QApplication::styleHints()->setTabFocusBehavior(Qt::TabFocusAllControls);
     new FocusOrder(qApp);

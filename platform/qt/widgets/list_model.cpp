@@ -12,16 +12,14 @@ int ListModel::columnCount(QModelIndex const& parent) const
 
 QVariant ListModel::data(QModelIndex const& index, int role) const
 {
-    if (!index.isValid()) {
-        return {};
-    }
-    auto const& row = rows_[static_cast<std::size_t>(index.row())];
-    auto const column = static_cast<std::size_t>(index.column());
-    Cell const& found = column < row.size() ? row[column] : Cell();
     if (role == Qt::DisplayRole) {
-        return found.text;
+        return QString::fromStdString(text(index.row(), index.column()));
     }
-    return role == Qt::TextAlignmentRole ? QVariant(static_cast<int>(found.alignment)) : QVariant();
+    if (role == Qt::TextAlignmentRole) {
+        Cell const* const found = cell(index.row(), index.column());
+        return static_cast<int>(found != nullptr ? found->alignment : Cell().alignment);
+    }
+    return {};
 }
 
 QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -30,11 +28,17 @@ QVariant ListModel::headerData(int section, Qt::Orientation orientation, int rol
     return isHeader ? QVariant(headers_.value(section)) : QVariant();
 }
 
-void ListModel::append(QString const& text)
+std::string ListModel::text(int row, int column) const
+{
+    Cell const* const found = cell(row, column);
+    return found != nullptr ? found->text : std::string();
+}
+
+void ListModel::append(std::string_view text)
 {
     int const row = rowCount();
     beginInsertRows({}, row, row);
-    rows_.push_back({Cell{text}});
+    rows_.push_back({Cell{std::string(text)}});
     endInsertRows();
 }
 
@@ -68,9 +72,9 @@ void ListModel::setColumns(int count)
     }
 }
 
-void ListModel::setText(int row, int column, QString const& text)
+void ListModel::setText(int row, int column, std::string_view text)
 {
-    if (Cell* const found = cell(row, column)) {
+    if (Cell* const found = makeCell(row, column)) {
         found->text = text;
         emit dataChanged(index(row, column), index(row, column));
     }
@@ -78,14 +82,25 @@ void ListModel::setText(int row, int column, QString const& text)
 
 void ListModel::setAlignment(int row, int column, Qt::Alignment alignment)
 {
-    if (Cell* const found = cell(row, column)) {
+    if (Cell* const found = makeCell(row, column)) {
         found->alignment = alignment | Qt::AlignVCenter;
         emit dataChanged(index(row, column), index(row, column));
     }
 }
 
+/// The cell at this place; null outside the list and in a row that is still shorter.
+ListModel::Cell const* ListModel::cell(int row, int column) const
+{
+    if (row < 0 || row >= rowCount() || column < 0) {
+        return nullptr;
+    }
+    auto const& cells = rows_[static_cast<std::size_t>(row)];
+    auto const at = static_cast<std::size_t>(column);
+    return at < cells.size() ? &cells[at] : nullptr;
+}
+
 /// The cell at this place, made if the row is still shorter; null outside the list.
-ListModel::Cell* ListModel::cell(int row, int column)
+ListModel::Cell* ListModel::makeCell(int row, int column)
 {
     if (row < 0 || row >= rowCount() || column < 0 || column >= columns_) {
         return nullptr;

@@ -2,15 +2,17 @@
 
 #include <QAbstractTableModel>
 
+#include <string>
+#include <string_view>
 #include <vector>
 
-/// The rows of a list. Appending a row touches no other.
+/// The rows of a list, in UTF-8 as the program writes and reads them. Appending a row touches no other.
 class ListModel final : public QAbstractTableModel {
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
     struct Cell {
-        QString text;
+        std::string text;
         Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
     };
 
@@ -19,16 +21,19 @@ public:
     [[nodiscard]] QVariant data(QModelIndex const& index, int role) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-    void append(QString const& text);
+    /// Empty outside the list.
+    [[nodiscard]] std::string text(int row, int column) const;
+    void append(std::string_view text);
     void remove(int row);
     void clear();
     void setColumns(int count);
     void setHeaders(QStringList const& headers) { headers_ = headers; }
-    void setText(int row, int column, QString const& text);
+    void setText(int row, int column, std::string_view text);
     void setAlignment(int row, int column, Qt::Alignment alignment);
 
 private:
-    Cell* cell(int row, int column);
+    [[nodiscard]] Cell const* cell(int row, int column) const;
+    Cell* makeCell(int row, int column);
 
     std::vector<std::vector<Cell>> rows_;
     QStringList headers_; ///< of the first columns

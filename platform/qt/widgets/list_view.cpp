@@ -20,8 +20,6 @@ constexpr int kRowHeight = 16; // pixels
 
 ListView::ListView(QWidget* parent) : QTableView(parent), rows_(new ListModel(this))
 {
-    setModel(rows_);
-    verticalHeader()->setModel(new ListModel(this)); // one that never has a row
     verticalHeader()->hide();
     horizontalHeader()->hide();
     findChild<QAbstractButton*>()->hide(); // the corner between them
@@ -32,12 +30,39 @@ ListView::ListView(QWidget* parent) : QTableView(parent), rows_(new ListModel(th
     setSelectionBehavior(SelectRows);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerPixel);
-    connect(rows_, &ListModel::rowsRemoved, this, &ListView::updateGeometries);
-    connect(rows_, &ListModel::modelReset, this, &ListView::updateGeometries);
+}
+
+/// Gives the view its rows. That is most of what a list costs, so one that is never shown does without. The vertical
+/// header stays without rows, since it grows slow with their number.
+void ListView::takeRows()
+{
+    if (model() == nullptr) {
+        horizontalHeader()->setModel(rows_);
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call): past the vertical header
+        QAbstractItemView::setModel(rows_);
+        connect(rows_, &ListModel::rowsRemoved, this, &ListView::updateGeometries);
+        connect(rows_, &ListModel::modelReset, this, &ListView::updateGeometries);
+    }
+}
+
+/// The headers are hidden and need not know what is selected.
+void ListView::setSelectionModel(QItemSelectionModel* selection)
+{
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): past both headers
+    QAbstractItemView::setSelectionModel(selection);
+}
+
+void ListView::setVisible(bool visible)
+{
+    if (visible) {
+        takeRows();
+    }
+    QTableView::setVisible(visible);
 }
 
 void ListView::setColumnWidths(QString const& widths)
 {
+    takeRows();
     QStringList const parts = widths.split(u',', Qt::SkipEmptyParts);
     for (int column = 0; column < rows_->columnCount(); ++column) {
         bool const stated = column < parts.size();

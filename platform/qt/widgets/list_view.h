@@ -13,6 +13,8 @@ public:
     [[nodiscard]] ListModel& rows() { return *rows_; }
     [[nodiscard]] ListModel const& rows() const { return *rows_; }
     void setColumnWidths(QString const& widths);
+    void setVisible(bool visible) override;
+    void setSelectionModel(QItemSelectionModel* selection) override;
 
     [[nodiscard]] QRect visualRect(QModelIndex const& index) const override;
     [[nodiscard]] QModelIndex indexAt(QPoint const& place) const override;
@@ -31,6 +33,7 @@ protected:
     [[nodiscard]] QRegion visualRegionForSelection(QItemSelection const& selection) const override;
 
 private:
+    void takeRows();
     [[nodiscard]] int rowAtHeight(int y) const;
     [[nodiscard]] QRect rowRect(int first, int last) const;
     void drawRow(QPainter& painter, int row) const;
