@@ -76,7 +76,7 @@ State State::now(TestSession const& session, QStringList const& folders)
     }
     for (QString const& list : QString(kHistoryLists).split(u' ')) {
         // An entry without a letter is a row without a text.
-        bool const isEmpty = session.widget<QTableView>(list)->model()->rowCount() == 0;
+        bool const isEmpty = session.widget(list)->findChild<QAbstractTableModel*>()->rowCount() == 0;
         state.lists += isEmpty ? QStringList() : session.text(list).split(u';');
     }
     return state;
