@@ -13,9 +13,7 @@ void ClickAt(QWidget* widget, quint64 time)
 {
     QPointF const place(5, 5);
     for (QEvent::Type const type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        bool const isDown = type == QEvent::MouseButtonPress;
-        QMouseEvent event(type, place, widget->mapToGlobal(place), Qt::LeftButton,
-                          isDown ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+        QMouseEvent event(type, place, widget->mapToGlobal(place), Qt::LeftButton, {}, {});
         event.setTimestamp(time);
         QCoreApplication::sendEvent(widget, &event);
     }
@@ -34,11 +32,6 @@ void ChooseInContextMenu(QWidget* field, QString const& caption)
         }
     }
     menu->close();
-}
-
-int Entries(TestSession const& session)
-{
-    return session.text("numstudents").toInt();
 }
 
 } // namespace
@@ -65,7 +58,7 @@ private slots:
         session.expectFields("missed=7");
     }
 
-    void aDoubleOrTripleClickOnGradeMakesOneEntry()
+    void aDoubleOrTripleClickMakesOneEntryButCountsOnABox()
     {
         TestSession const session;
         session.type("total", "30");
@@ -73,14 +66,9 @@ private slots:
         for (quint64 const time : {quint64{1000}, 1000 + interval - 1, 1000 + 2 * (interval - 1)}) {
             ClickAt(session.widget("PushButton1"), time);
         }
-        QCOMPARE(Entries(session), 1);
+        session.expectFields("numstudents=1");
         ClickAt(session.widget("PushButton1"), 1000 + 3 * interval);
-        QCOMPARE(Entries(session), 2);
-    }
-
-    void aBoxIsCheckedAndClearedAsFastAsOneLikes()
-    {
-        TestSession const session;
+        session.expectFields("numstudents=2");
         ClickAt(session.widget("checkcorrect"), 5000);
         ClickAt(session.widget("checkcorrect"), 5100);
         QVERIFY(!session.form().checkcorrect().Value());
@@ -90,20 +78,19 @@ private slots:
     {
         TestSession const session;
         session.enterScores("30", {"1", "2", "3", "4"});
-        auto const hold = [&](char const* name, Qt::Key key, QString const& text) {
-            QWidget* const widget = session.widget(name);
-            QTest::keyPress(widget, key);
+        for (auto const& [name, key, text] : {
+                 std::tuple("PushButton1", Qt::Key_Space, u" "_s),
+                 {"missed",       Qt::Key_Return, u"\r"_s},
+                 {"checkcorrect", Qt::Key_Space,  u" "_s }
+        }) {
+            QTest::keyPress(session.widget(name), key);
             for (int i = 0; i < 3; ++i) {
                 QKeyEvent repeat(QEvent::KeyPress, key, Qt::NoModifier, text, true);
-                QCoreApplication::sendEvent(widget, &repeat);
+                QCoreApplication::sendEvent(session.widget(name), &repeat);
             }
-            QTest::keyRelease(widget, key);
-        };
-        hold("PushButton1", Qt::Key_Space, u" "_s);
-        QCOMPARE(Entries(session), 5);
-        hold("missed", Qt::Key_Return, u"\r"_s);
-        QCOMPARE(Entries(session), 6);
-        hold("checkcorrect", Qt::Key_Space, u" "_s);
+            QTest::keyRelease(session.widget(name), key);
+        }
+        session.expectFields("numstudents=6");
         QVERIFY(session.form().checkcorrect().Value());
     }
 
@@ -126,26 +113,12 @@ private slots:
     {
         TestSession const session;
         session.enterScores("30", {"3", "6", "9"});
-        auto* const list = session.widget<QTableView>("ListBox1");
-        list->setFocus();
-        session.play("key Down; key Shift+Down; key Ctrl+C"); // the first row and one more
+        session.play("focus ListBox1; key Down; key Shift+Down; key Ctrl+C"); // the first row and one more
         QCOMPARE(QGuiApplication::clipboard()->text(), "1\t90\t%\n2\t80\t%"_L1);
         session.play("key End; key Ctrl+C");
         QCOMPARE(QGuiApplication::clipboard()->text(), "3\t70\t%"_L1);
-        session.play("key Home");
-        QCOMPARE(list->currentIndex().row(), 0);
-    }
-
-    void aResultWiderThanItsFieldIsCondensed()
-    {
-        TestSession const session;
-        QLineEdit* const result = session.field("percentage");
-        session.setFields("percentage=90");
-        int const normal = result->font().stretch();
-        session.setFields("percentage=89.49772");
-        QVERIFY(result->font().stretch() < normal && result->font().stretch() >= 70);
-        session.setFields("percentage=1");
-        QCOMPARE(result->font().stretch(), normal);
+        session.play("key Home; key Ctrl+C");
+        QCOMPARE(QGuiApplication::clipboard()->text(), "1\t90\t%"_L1);
     }
 
     void anAssistiveEditIsAnsweredFirstAndThenTyped()
