@@ -43,8 +43,7 @@ int CountClear(QImage const& one, QImage const& other, double contrast)
     for (int i = 0; i < one.width() * one.height(); ++i) {
         QPoint const place(i % one.width(), i / one.width());
         bool const isSame = one.pixel(place) == other.pixel(place); // which is quick to see
-        bool const isClear = !isSame && Contrast(one.pixelColor(place), other.pixelColor(place)) >= contrast;
-        count += isClear ? 1 : 0;
+        count += !isSame && Contrast(one.pixelColor(place), other.pixelColor(place)) >= contrast ? 1 : 0;
     }
     return count;
 }
@@ -57,7 +56,7 @@ QImage PictureOf(QWidget& control)
     return control.window()->grab(place.adjusted(-kAround, -kAround, kAround, kAround)).toImage();
 }
 
-/// Whether a control's text, if it has one, can be told from the control without it.
+/// Whether a control's text, if it has one, can be seen.
 bool IsLegible(QWidget& control)
 {
     char const* const property = control.inherits("QGroupBox") ? "title" : "text";
@@ -74,8 +73,7 @@ bool IsLegible(QWidget& control)
            Contrast(colors.color(QPalette::HighlightedText), colors.color(QPalette::Highlight)) >= 4.5;
 }
 
-/// Whether the focus can be seen: as two sides of a rectangle at the least, for a cursor or a selected digit alone is
-/// less.
+/// Whether the focus can be seen: as two sides of a rectangle, since a cursor or a selected digit is not enough.
 bool ShowsFocus(QWidget& control)
 {
     control.setFocus(Qt::TabFocusReason);

@@ -26,49 +26,41 @@ struct Chart {
 };
 
 struct Commands {
-    char const* name;
-    char const* focus;
+    char const* name; // the control that has the focus
     char const* window;
     char const* on; // the first words of the items
 } const kCommands[] = {
-    {"about window",  "PushButton1", "Author",     "Close Quit"},
-    {"Presenter",     "EditField1", "Window1",    "Close Quit Cut Copy Paste Clear"},
-    {"input",         "total",      "mainscreen", "Open Presenter Close Export Reset Print Quit Undo Cut Copy Paste Clear About"},
-    {"result",        "percentage", "mainscreen", "Open Presenter Close Export Reset Print Quit Undo Copy About"},
-    {"button",        "PushButton3", "mainscreen", "Open Presenter Close Export Reset Print Quit Undo About"},
+    {"PushButton1", "Author",     "Close Quit"},
+    {"EditField1",  "Window1",    "Close Quit Cut Copy Paste Clear"},
+    {"total",       "mainscreen", "Open Presenter Close Export Reset Print Quit Undo Cut Copy Paste Clear About"},
+    {"percentage",  "mainscreen", "Open Presenter Close Export Reset Print Quit Undo Copy About"},
+    {"PushButton3", "mainscreen", "Open Presenter Close Export Reset Print Quit Undo About"},
 };
 
-struct Form {
-    char const* name;
-    int checksum; // of all lines, to be changed together with a form
-} const kForms[] = {{"mainscreen", 34958}, {"Window1", 16155}, {"Author", 57473}};
+// Of all lines that FormOf gives, to be changed together with a form.
+std::pair<char const*, int> const kChecksums[] = {{"mainscreen", 21611}, {"Window1", 63204}, {"Author", 1193}};
 // clang-format on
 
-/// A window's title, size and colour, and then its controls in the order of the keyboard: name, left, top, width,
-/// height, "text", spoken name; then how each looks.
+/// A window's title, size and colour, and then its controls in the order of the keyboard: name, place, text, spoken name;
+/// whether it is hidden, enabled, small, bold and read-only; a field's colour and the tooltip.
 QStringList FormOf(QWidget& window)
 {
     QWidget const& content = *window.findChild<QWidget*>("StaticText1")->parentWidget();
-    QStringList lines = {u"%1 %2 %3"_s.arg(window.windowTitle()).arg(content.width()).arg(content.height())};
-    if (content.autoFillBackground()) {
-        lines[0] += u' ' + content.palette().color(QPalette::Window).name();
-    }
+    QPalette const& colors = content.palette();
+    QStringList lines(1);
+    QDebug(&lines[0]) << window.windowTitle() << content.size()
+                      << (content.autoFillBackground() ? colors.color(QPalette::Window).name() : QString());
     for (QWidget* it = window.nextInFocusChain(); it != &window; it = it->nextInFocusChain()) {
         if (!content.isAncestorOf(it) || it->objectName().isEmpty() || it->objectName().startsWith(u"qt_")) {
             continue;
         }
         QRect const place(it->mapTo(&content, QPoint()), it->size());
         QString const text = it->property(it->inherits("QGroupBox") ? "title" : "text").toString();
-        QString line = u"%1 %2 %3 "_s.arg(it->objectName()).arg(place.x()).arg(place.y()) +
-                       u"%1 %2"_s.arg(place.width()).arg(place.height());
-        line += u" \"%1\" %2;"_s.arg(text, it->accessibleName()) + (it->isHidden() ? "" : " shown") +
-                (it->isEnabled() ? " enabled" : "") + (it->font().pixelSize() == 12 ? " 12" : "") +
-                (it->font().bold() ? " bold" : "");
-        if (auto const* const field = qobject_cast<QLineEdit const*>(it)) {
-            line += (field->isReadOnly() ? u" read-only "_s : u" "_s) +
-                    field->palette().color(QPalette::Base).name();
-        }
-        lines += (line + u' ' + it->toolTip()).trimmed();
+        bool const isField = it->inherits("QLineEdit");
+        QDebug(&lines.emplace_back())
+            << it->objectName() << place << text << it->accessibleName() << it->isHidden() << it->isEnabled()
+            << (it->font().pixelSize() == 12) << it->font().bold() << it->property("readOnly").toBool()
+            << (isField ? it->palette().color(QPalette::Base).name() : QString()) << it->toolTip();
     }
     return lines;
 }
@@ -88,17 +80,16 @@ class WindowsAndMenu final : public QObject {
     Q_OBJECT
 
 private slots:
-    void everyControlIsAsTheFormStates_data() { AddRows(kForms); }
     void everyControlIsAsTheFormStates()
     {
-        QFETCH(Form const*, row);
         TestSession const session;
         ::Window1();
         ::Author();
-        QStringList const lines = FormOf(*session.window(row->name));
-        int const checksum = qChecksum(lines.join(u'\n').toUtf8());
-        QVERIFY2(checksum == row->checksum,
-                 qPrintable(QString::number(checksum) + u'\n' + lines.join(u'\n')));
+        for (auto const& [name, expected] : kChecksums) {
+            QString const form = FormOf(*session.window(name)).join(u'\n');
+            int const checksum = qChecksum(form.toUtf8());
+            QVERIFY2(checksum == expected, qPrintable(QString::number(checksum) + u'\n' + form));
+        }
     }
 
     void theMenusShowTheirItemsAndNoEmptyOnes()
@@ -127,7 +118,7 @@ private slots:
         ::Window1();
         ::Author();
         session.activate(row->window);
-        session.widget(row->focus, row->window)->setFocus();
+        session.widget(row->name, row->window)->setFocus();
         QStringList on;
         for (QAction const* const item : session.menuItems()) {
             if (item->menu() == nullptr && item->isVisible() && item->isEnabled() && !item->isSeparator()) {
@@ -191,9 +182,7 @@ private slots:
         session.type("EditField1", "73\n", "Window1");
         QVERIFY(session.text("ListBox1", "Window1").startsWith("0,100;-1,98.63014;"_L1)); // seven digits
         QVERIFY(session.text("ListBox2", "Window1").startsWith("-36,50.68493;-37,"_L1));
-        session.expectFields(
-            "ListBox5=-71,2.739726;-72,1.369863;-73,0 ListBox6=2.739726;1.369863;0 ListBox7=2;1;0",
-            "Window1");
+        session.expectFields("ListBox5=-71,2.739726;-72,1.369863;-73,0 ListBox7=2;1;0", "Window1");
         session.expectBox("This feature of Gradeloom can only present 105 percentages.");
         session.type("EditField1", "106\n", "Window1");
         session.expectFields("EditField1=106", "Window1");
