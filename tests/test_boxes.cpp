@@ -8,8 +8,8 @@
 
 namespace {
 
-/// Shows a box and does this with it and with its timer, which runs while it takes no key. Returns the answer, or
-/// nothing if the box is still open then.
+/// Shows a box and does this with it and with its timer, which runs while it takes no key. Returns the
+/// answer, or nothing if the box is still open then.
 template <class Act>
 std::optional<int> AnswerTo(bool isQuestion, Act const& act)
 {

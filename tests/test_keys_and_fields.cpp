@@ -67,6 +67,7 @@ constexpr char const* kTwoEntries = "total=40; missed=3 Return; missed=4 Return;
 Scenario const kUndone[] = {
     {"typing goes first", "keys 25; key Ctrl+Z", {}, "missed= numstudents=2"},
     {"then the entry", "keys 25; key Ctrl+Z; key Ctrl+Z", {}, "missed= numstudents=1"},
+    {"typing after a command goes first", "keys 2; PushButton2; keys 5; key Ctrl+Z", {}, "missed=2 numstudents=2"},
     {"no typing from before a button", "keys 25; PushButton2; key Ctrl+Z", {}, "missed=25 numstudents=1"},
     {"no typing from before a command", "keys 25; FileExport; key Ctrl+Z", {}, "missed=25 numstudents=1"},
     {"no entry at once after a refusal", "missed=45 Return; key Ctrl+Z", {{kTooManyMissed}}, "numstudents=2"},

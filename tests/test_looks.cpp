@@ -73,7 +73,7 @@ bool IsLegible(QWidget& control)
            Contrast(colors.color(QPalette::HighlightedText), colors.color(QPalette::Highlight)) >= 4.5;
 }
 
-/// Whether the focus can be seen: as two sides of a rectangle, since a cursor or a selected digit is not enough.
+/// Whether the focus can be seen, as two sides of a rectangle: a cursor or a selected digit is not enough.
 bool ShowsFocus(QWidget& control)
 {
     control.setFocus(Qt::TabFocusReason);

@@ -41,15 +41,15 @@ struct Commands {
 std::pair<char const*, int> const kChecksums[] = {{"mainscreen", 21611}, {"Window1", 63204}, {"Author", 1193}};
 // clang-format on
 
-/// A window's title, size and colour, and then its controls in the order of the keyboard: name, place, text, spoken name;
-/// whether it is hidden, enabled, small, bold and read-only; a field's colour and the tooltip.
+/// A window's title, size and colour, and then its controls in the order of the keyboard: name, place, text,
+/// spoken name; whether it is hidden, enabled, small, bold and read-only; a field's colour and the tooltip.
 QStringList FormOf(QWidget& window)
 {
     QWidget const& content = *window.findChild<QWidget*>("StaticText1")->parentWidget();
-    QPalette const& colors = content.palette();
+    QString const color = content.palette().color(QPalette::Window).name();
+    bool const isColored = content.autoFillBackground();
     QStringList lines(1);
-    QDebug(&lines[0]) << window.windowTitle() << content.size()
-                      << (content.autoFillBackground() ? colors.color(QPalette::Window).name() : QString());
+    QDebug(&lines.front()) << window.windowTitle() << content.size() << (isColored ? color : QString());
     for (QWidget* it = window.nextInFocusChain(); it != &window; it = it->nextInFocusChain()) {
         if (!content.isAncestorOf(it) || it->objectName().isEmpty() || it->objectName().startsWith(u"qt_")) {
             continue;
