@@ -11,7 +11,7 @@ char const* const kBands[] = {"an A+", "an A", "an A-", "a B+", "a B", "a B-",
                               "a C+",  "a C",  "a C-",  "a D+", "a D", "a D-"};
 
 /// The notice about the boundary above a band, counted from 0.
-std::string Notice(int band)
+std::string Notice(qsizetype band)
 {
     return "The difference between the minimum for "s + kBands[band - 1] + " and the maximum for " +
            kBands[band] + " must be equal to one.";
@@ -84,7 +84,7 @@ private slots:
     void aBoundaryThatIsOffComesOutInWholeNumbers()
     {
         QFETCH(Boundary const*, row);
-        for (int band = 1; band < 12; ++band) {
+        for (qsizetype band = 1; band < 12; ++band) {
             QString const fields = kNames[2 * band - 1] + "=%1 "_L1 + kNames[2 * band] + "=%2"_L1;
             QString const expected = fields.arg(row->minimumAfter, row->maximumAfter);
             TestSession session;
@@ -95,7 +95,7 @@ private slots:
             }
             // The boundary is mended before the notice, the text of the field is stored after it.
             session.whileBoxIsUp = [&] { session.expectFields(expected + " fileresetfield="); };
-            QString const field = kNames[2 * band + 1];
+            QString const& field = kNames[2 * band + 1];
             session.play("focus " + field);
             session.expectFields(expected + " fileresetfield=" + session.text(field));
         }

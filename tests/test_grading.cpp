@@ -104,7 +104,7 @@ private slots:
         TestSession const session;
         QStringList const bounds = QString(kDefaultScale).split(u' ') + QStringList{u"59"_s, u"0"_s};
         QStringList const letters = u"A+ A A- B+ B B- C+ C C- D+ D D- F"_s.split(u' ');
-        for (int band = 0; band < letters.size(); ++band) {
+        for (qsizetype band = 0; band < letters.size(); ++band) {
             for (double const percent :
                  {bounds[2 * band].toInt() + 0.4, bounds[2 * band + 1].toInt() - 0.5}) { // both round into it
                 session.setFields(u"percentage=%1"_s.arg(percent));
