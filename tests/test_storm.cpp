@@ -185,10 +185,10 @@ int main(int count, char** arguments)
     StormTest test;
     test.program = QString::fromLocal8Bit(arguments[0]);
     if (count > 1) {
+        qputenv("QTEST_FUNCTION_TIMEOUT", "2000000000"); // milliseconds: a long storm does not hang
         test.acts = QString::fromLocal8Bit(arguments[1]).toInt();
         test.seed = count > 2 ? QString::fromLocal8Bit(arguments[2]).toUInt() : std::random_device()();
     }
-    qputenv("QTEST_FUNCTION_TIMEOUT", "2000000000"); // milliseconds: a long storm does not hang
     return RunTests(test, 1, arguments);
 }
 
