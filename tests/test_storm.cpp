@@ -14,7 +14,7 @@ namespace {
 // text, %o one that can't be typed, %k a key.
 char const* const kActs = "total=2%n|total=2%n|%f=%t|%f=%t|key %k|key %k|key %k|key Return|focus %f; key %k|focus %f; key %k|"
     "paste %o|drop %f %o|edit %f %o|focus %f; commit %o|focus %f; compose %t|EditUndo|EditUndo|checkcorrect|correct=%n Return|"
-    "PushButton1|PushButton2|PushButton3|PushButton4|FileOpen|FileExport|FilePrint|filepresent|About|EditClear|%e";
+    "%f|%f|ListBox1|PushButton1|PushButton2|PushButton3|PushButton4|FileOpen|FileExport|FilePrint|filepresent|About|EditClear|%e";
 char const* const kActsElsewhere = "keys %n|keys %n|key %k|key %k|paste %o|filepresent|%e";
 char const* const kEnds = "BevelButton1|key Ctrl+R|key Ctrl+W|key Ctrl+Q|key Esc";
 char const* const kFields = "total missed correct percentage EditField1 aplusmax aplusmin amax amin aminusmin bmin cplusmax dmin "
