@@ -96,8 +96,6 @@ public:
     void activate(char const* name = "mainscreen") const;
     /// Moves the focus to a control as Tab does; its GotFocus has been raised when this returns.
     [[nodiscard]] QLineEdit* enterField(QString const& name) const;
-    void chooseCommand(QString const& item) const { play(item); }
-    void click(QString const& name) const { play(name); }
     /// Replaces a field's text by typing, key by key; a line end is a press of Return.
     void type(QString const& name, QString const& text, char const* in = "mainscreen") const;
     /// Types the number of points, then each number missed with Return.

@@ -125,6 +125,8 @@ private slots:
     void theNoticeComesBeforeTheNextKeyAndLosesNone()
     {
         TestSession const session;
+        session.play("filepresent");
+        session.activate();
         session.play("write aplusmin=95; focus amax");
         TestSession::useRealDoors();
         int boxes = 0;
@@ -138,6 +140,7 @@ private slots:
         });
         closer.start(5);
         session.play("key Tab; keys 94"); // the notice comes at the first key
+        QVERIFY(QTest::qWaitForWindowActive(session.window()));
         QTRY_COMPARE(boxes, 1);
         session.activate();
         session.expectFields("aplusmin=95 amax=94 amin=94");

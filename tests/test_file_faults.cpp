@@ -134,6 +134,11 @@ private slots:
         QString const link = folder.filePath(u"link"_s);
         WriteFile(path, "old\n");
         QVERIFY(QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner) && QFile::link(path, link));
+        auto const item = [&](bool followAlias) {
+            FolderItem const parent = GetFolderItem(folder.path().toStdString(), 0).value();
+            return QString::fromStdString(parent.Child("link", followAlias).Path());
+        };
+        QVERIFY(item(true) == path && item(false) == link);
         QCOMPARE(Save(link, "new\n"), QString());
         QVERIFY(QFileInfo(link).isSymLink() && ContentOf(path) == "new\n");
         QCOMPARE(QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());

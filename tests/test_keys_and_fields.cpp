@@ -20,6 +20,7 @@ struct LoggedActs {
     {"a text in composition is no change", "focus missed; compose 9", "focus "},
     {"AltGr types", "focus missed; key Ctrl+Alt+7", "focus 7 text=7 "},
     {"a committed text is a key", "focus missed; commit x; commit 7", "focus x 7 text=7 "},
+    {"an assistive program's text is a key", "edit missed x; edit missed 7", "focus x 7 text=7 "},
     {"a list takes the focus", "focus missed; ListBox1; missed", "focus focus "},
 };
 
@@ -68,10 +69,13 @@ Scenario const kUndone[] = {
     {"typing goes first", "keys 25; key Ctrl+Z", {}, "missed= numstudents=2"},
     {"then the entry", "keys 25; key Ctrl+Z; key Ctrl+Z", {}, "missed= numstudents=1"},
     {"typing after a command goes first", "keys 2; PushButton2; keys 5; key Ctrl+Z", {}, "missed=2 numstudents=2"},
+    {"a clearing after a command goes first", "keys 25; PushButton2; key Ctrl+A; EditClear; key Ctrl+Z", {},
+     "missed=25 numstudents=2"},
     {"no typing from before a button", "keys 25; PushButton2; key Ctrl+Z", {}, "missed=25 numstudents=1"},
     {"no typing from before a command", "keys 25; FileExport; key Ctrl+Z", {}, "missed=25 numstudents=1"},
     {"no entry at once after a refusal", "missed=45 Return; key Ctrl+Z", {{kTooManyMissed}}, "numstudents=2"},
     {"an entry by the second key", "missed=45 Return; key Ctrl+Z; key Ctrl+Z", {{kTooManyMissed}}, "numstudents=1"},
+    {"an entry after new typing", "missed=45 Return; keys 5; key Ctrl+Z; key Ctrl+Z", {{kTooManyMissed}}, "numstudents=1"},
     {"no entry without points", "write total=0; missed= Return; key Ctrl+Z", {{kNeedsPoints}}, "numstudents=2"},
     {"no entry after a text is restored", "focus bmax; key 5; key Ctrl+Z", {{kDeletesData, kNo}}, "numstudents=2"},
     {"no entry after the points are", "focus total; key 5; key Ctrl+Z", {{kPointsAreFixed}}, "numstudents=2"},
@@ -148,11 +152,15 @@ private slots:
         std::string events;
         TestSession const session;
         RecordEvents(session, events);
-        session.play("focus missed; filepresent");
+        session.play("write missed=5; focus missed; filepresent");
         session.activate("Window1");
         session.activate();
         QCoreApplication::processEvents();
         QCOMPARE(events, "focus ");
+        session.activate("Window1");
+        session.widget("total")->setFocus(); // behind the other window
+        session.activate();
+        QVERIFY(!session.field("missed")->hasSelectedText());
     }
 
     void whatIsTypedOrPastedIsInTheField_data() { AddRows(kActs); }

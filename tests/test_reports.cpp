@@ -110,7 +110,7 @@ private slots:
                 session.expectBox(
                     "Gradeloom will only print the first 160 entries. If you need to print more scores");
             }
-            session.chooseCommand("FilePrint");
+            session.play("FilePrint");
             CompareReports(ReadPdf(session.fileToChoose), ReportOf(session));
         }
     }
@@ -161,7 +161,7 @@ private slots:
             dialog->findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(session.pathOf("percents"));
             QMetaObject::invokeMethod(dialog, "accept");
         });
-        session.chooseCommand("FileExport");
+        session.play("FileExport");
         QCOMPARE(ContentOf(session.pathOf("percents")), "90\n"_ba);
         if (kIsWindows) {
             return; // the print dialog is the system's own, which can't be driven from here
@@ -175,7 +175,7 @@ private slots:
             file->setText(session.pathOf("report.pdf"));
             QMetaObject::invokeMethod(dialog, "accept");
         });
-        session.chooseCommand("FilePrint");
+        session.play("FilePrint");
         QCOMPARE(QFileInfo(proposed).fileName(), "print.pdf"_L1);
         QVERIFY(ContentOf(session.pathOf("report.pdf")).startsWith("%PDF"));
     }

@@ -109,12 +109,12 @@ private slots:
             session.expectFields(session.lastBox == kTooLow ? row->afterwards : "");
         };
         for (char const* const button : {"PushButton4", "PushButton2"}) {
-            session.click("PushButton3");
+            session.play("PushButton3");
             session.setFields(row->typed);
             for (TestSession::Box const& notice : row->notices) {
                 session.expectBox(notice.text);
             }
-            session.click(button);
+            session.play(button);
             QVERIFY(session.allBoxesSeen());
             session.expectFields(row->afterwards + u" foundaproblem="_s);
         }
@@ -151,11 +151,11 @@ private slots:
         QString const settings = QFileInfo(PreferencesPath()).path();
         QVERIFY(QDir().mkpath(PreferencesPath()));
         session.expectBox("The file \"Preferences\" could not be saved: it is not a plain file.");
-        session.click("PushButton4");
+        session.play("PushButton4");
         QVERIFY(QDir(settings).removeRecursively());
         WriteFile(settings, "");
         session.expectBox("The file \"Preferences\" could not be saved: its folder could not be made.");
-        session.click("PushButton4");
+        session.play("PushButton4");
         QVERIFY(QFile::remove(settings));
         session.fileToChoose = session.pathOf("no/such/folder/scale");
         session.expectBox("The file \"scale\" could not be saved: ");
@@ -163,7 +163,7 @@ private slots:
         QVERIFY(session.lastBox.size() > 50); // it says why
         session.expectFields("dminusmin=60 numstudents=1 foundaproblem=");
         session.fileToChoose = session.pathOf("scale");
-        session.click("PushButton2");
+        session.play("PushButton2");
         QCOMPARE(ContentOf(session.fileToChoose), kDefaultFile);
     }
 

@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QTimer>
 
+#include <csignal>
 #include <iostream>
 #include <sstream>
 #include <stdexcept>
@@ -128,6 +129,19 @@ private slots:
         QCOMPARE(on.join(u' '), QLatin1String(row->on));
     }
 
+    void aCommandOfAnAssistiveProgramIsAnsweredBeforeItRuns()
+    {
+        TestSession session({{"There is currently no data to send to the printer."}});
+        QList<QAction*> const items = session.menuItems();
+        bool isAnswered = false;
+        session.whileBoxIsUp = [&] { QVERIFY(isAnswered); };
+        QTimer::singleShot(0, qApp, [&] {
+            (*std::ranges::find(items, u"FilePrint"_s, &QAction::objectName))->trigger();
+            isAnswered = true;
+        });
+        QTRY_VERIFY(session.allBoxesSeen());
+    }
+
     void theAboutWindowOpensThePageAsTheMouseGoesDown()
     {
         TestSession const session;
@@ -228,8 +242,13 @@ private slots:
         RunProgram([&] { session.play("FileQuit"); });
         QEvent logOut(QEvent::Quit);
         RunProgram([&] { QCoreApplication::sendEvent(qApp, &logOut); });
+        if (!kIsWindows) {
+            RunProgram([] { std::raise(SIGTERM); });
+        }
         QVERIFY(session.window() != nullptr);
         QCOMPARE(RuntimeExit(), 0);
+        QCOMPARE(ShowMessageBox({"Really?", "", true}), kNo); // a box that comes now is not shown
+        QCOMPARE(QCoreApplication::arguments().size(), 1);    // the toolkit is given none of the user's
         Application const& app = *_RuntimeAppObject();
         QCOMPARE(app.LongVersion + app.ShortVersion + app.PackageInfo,
                  std::string("Gradeloom 1.2.2Gradeloom XGradeloom 1.2.2 Orrin Vale"));
