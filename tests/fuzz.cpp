@@ -78,9 +78,13 @@ void CheckWriting(Double number)
 /// The program with every question answered with No.
 TestSession& Session()
 {
-    static TestSession session;
-    PlatformDoors().messageBox = [](MessageBoxRequest const&) { return kNo; };
-    return session;
+    static std::unique_ptr<TestSession> session;
+    if (session == nullptr) {
+        StartTests();
+        session = std::make_unique<TestSession>();
+        PlatformDoors().messageBox = [](MessageBoxRequest const&) { return kNo; };
+    }
+    return *session;
 }
 
 /// Opens the text as a scale file. What is saved of it then comes back as it was, to the last character.
@@ -133,12 +137,6 @@ TestSession& Session()
 }
 
 } // namespace
-
-extern "C" int LLVMFuzzerInitialize(int* /*count*/, char*** /*arguments*/)
-{
-    StartTests();
-    return 0;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* bytes, std::size_t size)
 {

@@ -290,14 +290,13 @@ class StormTest final : public QObject {
     Q_OBJECT
 
 public:
-    QString program;
     int acts = 2000;
     unsigned seed = 1;
 
 private slots:
     void afterEachActAllHoldsThatMust()
     {
-        QString const replay = u"%1 %2 %3"_s.arg(program).arg(acts).arg(seed);
+        QString const replay = u"%1 %2 %3"_s.arg(QCoreApplication::applicationFilePath()).arg(acts).arg(seed);
         std::cout << qPrintable(replay) << '\n' << std::flush; // at once: a crash leaves no other trace
         QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
         Storm storm(seed);
@@ -314,7 +313,6 @@ private slots:
 int main(int count, char** arguments)
 {
     StormTest test;
-    test.program = QString::fromLocal8Bit(arguments[0]);
     if (count > 1) {
         qputenv("QTEST_FUNCTION_TIMEOUT", "2000000000"); // milliseconds: a long storm does not hang
         test.acts = QString::fromLocal8Bit(arguments[1]).toInt();
