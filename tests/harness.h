@@ -7,17 +7,14 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QOperatingSystemVersion>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
-#ifdef Q_OS_WIN
-inline constexpr bool kIsWindows = true;
-#else
-inline constexpr bool kIsWindows = false;
-#endif
+inline constexpr bool kIsWindows = QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows;
 
 inline constexpr char const* kNeedsPoints = "You must enter a positive value for the Number of Points.";
 inline constexpr char const* kTooManyMissed =
