@@ -78,12 +78,12 @@ void CheckWriting(Double number)
 /// The program with every question answered with No.
 TestSession& Session()
 {
-    static std::unique_ptr<TestSession> session;
-    if (session == nullptr) {
+    static auto* const session = [] {
         StartTests();
-        session = std::make_unique<TestSession>();
+        auto* const started = new TestSession; // which never ends, like the toolkit under it
         PlatformDoors().messageBox = [](MessageBoxRequest const&) { return kNo; };
-    }
+        return started;
+    }();
     return *session;
 }
 
