@@ -21,12 +21,13 @@ int faultNumber = EIO;
 
 bool Fails(char const* call)
 {
-    if (callsUntilFault == 0 || --callsUntilFault > 0) {
-        return false;
+    bool const isDue = callsUntilFault == 1;
+    callsUntilFault -= callsUntilFault > 0 ? 1 : 0;
+    if (isDue) {
+        faultyCall = call;
+        errno = faultNumber;
     }
-    faultyCall = call;
-    errno = faultNumber;
-    return true;
+    return isDue;
 }
 
 } // namespace
