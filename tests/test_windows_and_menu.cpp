@@ -248,7 +248,7 @@ private slots:
         RunProgram([&] { QCoreApplication::sendEvent(qApp, &logOut); });
         if (!kIsWindows) {
             HandleSignals(QCoreApplication::quit); // once more, past the handlers of Qt Test
-            RunProgram([] { std::raise(SIGTERM); });
+            RunProgram([] { QCOMPARE(std::raise(SIGTERM), 0); });
         }
         QVERIFY(session.window() != nullptr);
         QCOMPARE(RuntimeExit(), 0);
