@@ -32,8 +32,8 @@ ListView::ListView(QWidget* parent) : QTableView(parent), rows_(new ListModel(th
     setVerticalScrollMode(ScrollPerPixel);
 }
 
-/// Gives the view its rows. That is most of what a list costs, so one that is never shown does without. The vertical
-/// header stays without rows, since it grows slow with their number.
+/// Connects the view to its rows. That is most of what a list costs, so it is not done for one that is never shown. The
+/// vertical header gets no rows, since it would become slower with each of them.
 void ListView::takeRows()
 {
     if (model() == nullptr) {
