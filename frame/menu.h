@@ -1,7 +1,7 @@
 #pragma once
 
 #include "frame/windows.h"
-#include "platform/menu.h"
+#include "platform/menu_bar.h"
 
 /// The one menu bar, shown by all three windows. Its items never change; which of them are on depends on the
 /// window in front. What they do is defined by the windows: see frame/mainscreen.h.

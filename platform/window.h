@@ -2,7 +2,7 @@
 
 #include "platform/color.h"
 #include "platform/control.h"
-#include "platform/menu.h"
+#include "platform/menu_bar.h"
 
 #include <cassert>
 #include <functional>

@@ -53,7 +53,7 @@ std::string TextInputStream::ReadLine()
     std::string const bytes = buffer_.substr(0, length);
     bool const isPair = buffer_.compare(length, 2, "\r\n") == 0;
     buffer_.erase(0, length + (isPair ? 2 : 1));
-    QString line = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    QString line = ToQt(bytes);
     if (std::exchange(isStart_, false) && line.startsWith(QChar::ByteOrderMark)) {
         line.remove(0, 1);
     }

@@ -9,7 +9,7 @@
 
 inline QString ToQt(std::string_view text)
 {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    return QString::fromUtf8(text);
 }
 
 inline std::string FromQt(QString const& text)

@@ -5,25 +5,24 @@
 #include "platform/qt/widgets/held_keys.h"
 #include "platform/qt/widgets/menu_action.h"
 
+#include <QContextMenuEvent>
+#include <QDragLeaveEvent>
+#include <QDropEvent>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
-
-#include <limits>
+#include <QMenu>
+#include <QMimeData>
 
 namespace {
 
-constexpr int kNoLimit = std::numeric_limits<int>::max();
 constexpr int kFrame = 8; // pixels: the border and the blank inside it, left and right
 
 } // namespace
 
-LineEdit::LineEdit(QWidget* parent) : QLineEdit(parent), limit_(kNoLimit)
+LineEdit::LineEdit(QWidget* parent) : TrackedLineEdit(parent)
 {
-    setMaxLength(kNoLimit);
-    connect(this, &QLineEdit::textChanged, this, [this] {
-        if (!isWriting_ && userActs_ == 0) {
-            redirectEdit();
-        }
-    });
+    takeEdit = [this](QString const& text) { repeatEdit(text); };
     connect(this, &QLineEdit::selectionChanged, this, [this] {
         if (isReadOnly() && hasSelectedText() && selectedText().size() == text().size()) {
             showStart();
@@ -45,56 +44,12 @@ void LineEdit::writeByProgram(QString const& text)
     }
 }
 
-void LineEdit::setTextQuietly(QString const& text)
+/// Keeps the whole text selected, but with its start in sight.
+void LineEdit::showStart()
 {
-    bool const wasWriting = std::exchange(isWriting_, true);
-    lastText_ = text;
-    setText(text);
-    isTypingOver_ = false; // the history is empty now
-    isWriting_ = wasWriting;
-}
-
-void LineEdit::limitUserTo(int characters)
-{
-    limit_ = characters;
-}
-
-void LineEdit::endTyping()
-{
-    isTypingOver_ = isUndoAvailable() || isRedoAvailable();
-}
-
-/// Empties a history from before a command, now that new typing begins. Only here, since writing the text again is
-/// the toolkit's one way to do it, and a screen reader would read the text aloud.
-void LineEdit::beginTyping()
-{
-    if (!isTypingOver_) {
-        return;
-    }
-    int const cursor = cursorPosition();
-    int const start = selectionStart();
-    auto const length = static_cast<int>(selectedText().size());
-    setTextQuietly(text());
-    if (length == 0) {
-        setCursorPosition(cursor);
-    } else if (cursor == start) {
-        setSelection(start + length, -length);
-    } else {
-        setSelection(start, length);
-    }
-}
-
-void LineEdit::undoTyping()
-{
-    if (canUndoTyping()) {
-        runUserAct([this] { undo(); });
-    }
-}
-
-void LineEdit::redoTyping()
-{
-    if (!isTypingOver_) {
-        runUserAct([this] { redo(); });
+    if (cursorPosition() != 0) {
+        auto const length = static_cast<int>(text().size());
+        setSelection(length, -length);
     }
 }
 
@@ -103,14 +58,6 @@ void LineEdit::leave()
     deselect();
     if (isReadOnly()) {
         setCursorPosition(0);
-    }
-}
-
-void LineEdit::removeSelection()
-{
-    if (!isReadOnly() && hasSelectedText()) {
-        beginTyping();
-        runUserAct([this] { del(); });
     }
 }
 
@@ -185,22 +132,110 @@ void LineEdit::typeKey(QKeyEvent* event)
     }
 }
 
-/// Keeps the whole text selected, but with its start in sight.
-void LineEdit::showStart()
+void LineEdit::pasteFrom(QClipboard::Mode mode)
 {
-    if (cursorPosition() != 0) {
-        auto const length = static_cast<int>(text().size());
-        setSelection(length, -length);
+    QString const text = QGuiApplication::clipboard()->text(mode);
+    if (!isReadOnly() && !fitted(text).isEmpty()) {
+        insertByUser(text);
     }
 }
 
-void LineEdit::reportChange()
+void LineEdit::inputMethodEvent(QInputMethodEvent* event)
 {
-    if (text() != lastText_) {
-        lastText_ = text();
-        MenuAction::endIgnoring();
-        if (userChange) {
-            userChange();
-        }
+    if (isReadOnly()) {
+        event->ignore();
+        return;
     }
+    bool const isComposing = !event->preeditString().isEmpty();
+    bool const changes = !event->commitString().isEmpty() || event->replacementLength() > 0 ||
+                         (isComposing && hasSelectedText()); // which a composition takes the place of
+    QPointer<LineEdit> const field(this);
+    if ((changes && isConsumed(event->commitString())) || field.isNull()) {
+        return;
+    }
+    if (changes) {
+        beginTyping();
+    }
+    QInputMethodEvent limited(event->preeditString(), event->attributes());
+    limited.setCommitString(fitted(event->commitString(), event->replacementLength()),
+                            event->replacementStart(), event->replacementLength());
+    runUserAct([&] { QLineEdit::inputMethodEvent(&limited); });
+    event->setAccepted(limited.isAccepted());
+}
+
+void LineEdit::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::MiddleButton && QGuiApplication::clipboard()->supportsSelection()) {
+        deselect();
+        pasteFrom(QClipboard::Selection);
+        return;
+    }
+    QLineEdit::mouseReleaseEvent(event);
+}
+
+/// The toolkit's own menu would change the text past the field's limit, and keep line breaks.
+void LineEdit::contextMenuEvent(QContextMenuEvent* event)
+{
+    auto* const menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    auto const add = [&](QString const& caption, bool isEnabled, auto const& act) {
+        QAction* const action = menu->addAction(caption);
+        action->setEnabled(isEnabled);
+        connect(action, &QAction::triggered, this, act);
+    };
+    bool const canChange = !isReadOnly();
+    add(QStringLiteral("&Undo"), canChange && canUndoTyping(), [this] { undoTyping(); });
+    menu->addSeparator();
+    add(QStringLiteral("Cu&t"), canChange && hasSelectedText(), [this] {
+        copy();
+        removeSelection();
+    });
+    add(QStringLiteral("&Copy"), hasSelectedText(), [this] { copy(); });
+    add(QStringLiteral("&Paste"), canChange && !QGuiApplication::clipboard()->text().isEmpty(),
+        [this] { pasteFrom(QClipboard::Clipboard); });
+    add(QStringLiteral("C&lear"), canChange && hasSelectedText(), [this] { removeSelection(); });
+    menu->addSeparator();
+    add(QStringLiteral("Select &All"), !text().isEmpty(), [this] { selectAll(); });
+    menu->popup(event->globalPos());
+}
+
+/// The drop is carried out a moment later: the program may answer it with a message box, for which the other
+/// program would have to wait.
+void LineEdit::dropEvent(QDropEvent* event)
+{
+    QDragLeaveEvent leave;
+    dragLeaveEvent(&leave);
+    if (isReadOnly() || !event->mimeData()->hasText()) {
+        event->ignore();
+        return;
+    }
+    event->acceptProposedAction();
+    QMetaObject::invokeMethod(
+        this,
+        [this, text = event->mimeData()->text(), position = cursorPositionAt(event->position().toPoint())] {
+            takeDrop(text, position);
+        },
+        Qt::QueuedConnection);
+}
+
+/// A drop moves the focus to its field before it changes the text.
+void LineEdit::takeDrop(QString const& text, int position)
+{
+    QPointer<LineEdit> const field(this);
+    takeFocus();
+    if (field != nullptr) {
+        setCursorPosition(position);
+        insertByUser(text);
+    }
+}
+
+void LineEdit::repeatEdit(QString const& text)
+{
+    QPointer<LineEdit> const field(this);
+    takeFocus();
+    if (field.isNull() || isConsumed(text) || field.isNull()) {
+        return;
+    }
+    selectAll();
+    insertByUser(text);
 }

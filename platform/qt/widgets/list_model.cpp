@@ -16,8 +16,8 @@ QVariant ListModel::data(QModelIndex const& index, int role) const
         return QString::fromStdString(text(index.row(), index.column()));
     }
     if (role == Qt::TextAlignmentRole) {
-        Cell const* const found = cell(index.row(), index.column());
-        return static_cast<int>(found != nullptr ? found->alignment : Cell().alignment);
+        CellContent const* const found = cell(index.row(), index.column());
+        return static_cast<int>(found != nullptr ? found->alignment : CellContent().alignment);
     }
     return {};
 }
@@ -30,7 +30,7 @@ QVariant ListModel::headerData(int section, Qt::Orientation orientation, int rol
 
 std::string ListModel::text(int row, int column) const
 {
-    Cell const* const found = cell(row, column);
+    CellContent const* const found = cell(row, column);
     return found != nullptr ? found->text : std::string();
 }
 
@@ -38,7 +38,7 @@ void ListModel::append(std::string_view text)
 {
     int const row = rowCount();
     beginInsertRows({}, row, row);
-    rows_.push_back({Cell{std::string(text)}});
+    rows_.push_back({CellContent{std::string(text)}});
     endInsertRows();
 }
 
@@ -74,7 +74,7 @@ void ListModel::setColumns(int count)
 
 void ListModel::setText(int row, int column, std::string_view text)
 {
-    if (Cell* const found = makeCell(row, column)) {
+    if (CellContent* const found = makeCell(row, column)) {
         found->text = text;
         emit dataChanged(index(row, column), index(row, column));
     }
@@ -82,14 +82,14 @@ void ListModel::setText(int row, int column, std::string_view text)
 
 void ListModel::setAlignment(int row, int column, Qt::Alignment alignment)
 {
-    if (Cell* const found = makeCell(row, column)) {
+    if (CellContent* const found = makeCell(row, column)) {
         found->alignment = alignment | Qt::AlignVCenter;
         emit dataChanged(index(row, column), index(row, column));
     }
 }
 
 /// The cell at this place; null outside the list and in a row that is still shorter.
-ListModel::Cell const* ListModel::cell(int row, int column) const
+ListModel::CellContent const* ListModel::cell(int row, int column) const
 {
     if (row < 0 || row >= rowCount() || column < 0) {
         return nullptr;
@@ -100,7 +100,7 @@ ListModel::Cell const* ListModel::cell(int row, int column) const
 }
 
 /// The cell at this place, made if the row is still shorter; null outside the list.
-ListModel::Cell* ListModel::makeCell(int row, int column)
+ListModel::CellContent* ListModel::makeCell(int row, int column)
 {
     if (row < 0 || row >= rowCount() || column < 0 || column >= columns_) {
         return nullptr;

@@ -11,7 +11,7 @@ class ListModel final : public QAbstractTableModel {
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    struct Cell {
+    struct CellContent {
         std::string text;
         Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
     };
@@ -32,10 +32,10 @@ public:
     void setAlignment(int row, int column, Qt::Alignment alignment);
 
 private:
-    [[nodiscard]] Cell const* cell(int row, int column) const;
-    Cell* makeCell(int row, int column);
+    [[nodiscard]] CellContent const* cell(int row, int column) const;
+    CellContent* makeCell(int row, int column);
 
-    std::vector<std::vector<Cell>> rows_;
+    std::vector<std::vector<CellContent>> rows_;
     QStringList headers_; ///< of the first columns
     int columns_ = 1;
 };

@@ -1,4 +1,4 @@
-#include "platform/menu.h"
+#include "platform/menu_bar.h"
 
 #include "platform/qt/system/runtime_object.h"
 #include "platform/qt/text.h"
