@@ -175,15 +175,18 @@ void ListView::drawRow(QPainter& painter, int row) const
 
 void ListView::keyPressEvent(QKeyEvent* event)
 {
-    bool const isFirstDown = event->key() == Qt::Key_Down && !selectionModel()->hasSelection();
     if (event->matches(QKeySequence::Copy)) {
         copySelectedRows();
-    } else if (isFirstDown && rows_->rowCount() > 0) {
-        selectionModel()->setCurrentIndex(rows_->index(0, 0), selectionCommand(rows_->index(0, 0)));
+        return;
+    }
+    bool const isFirstDown = event->key() == Qt::Key_Down && !selectionModel()->hasSelection();
+    if (isFirstDown && rows_->rowCount() > 0) {
+        QModelIndex const first = moveCursor(MoveHome, Qt::NoModifier);
+        selectionModel()->setCurrentIndex(first, selectionCommand(first));
     } else {
         QTableView::keyPressEvent(event);
     }
-    if (event->isAccepted()) {
+    if (event->isAccepted() && currentIndex().isValid()) {
         showCurrentRow();
     }
 }
@@ -191,7 +194,7 @@ void ListView::keyPressEvent(QKeyEvent* event)
 /// On a small screen the list itself may be partly out of sight, and the row that a key leads to with it.
 void ListView::showCurrentRow()
 {
-    QWidget* ancestor = currentIndex().isValid() ? parentWidget() : nullptr;
+    QWidget* ancestor = parentWidget();
     while (ancestor != nullptr && qobject_cast<QScrollArea*>(ancestor) == nullptr) {
         ancestor = ancestor->parentWidget();
     }
@@ -231,7 +234,12 @@ QModelIndex ListView::moveCursor(CursorAction action, Qt::KeyboardModifiers /*mo
     default:
         break;
     }
-    return rows_->index(std::clamp(row, 0, std::max(last, 0)), 0);
+    QModelIndex const found = rows_->index(std::clamp(row, 0, std::max(last, 0)), 0);
+    if (found ==
+        currentIndex()) { // as the first row is once the list has the focus, wherever it is scrolled to
+        scrollTo(found);
+    }
+    return found;
 }
 
 void ListView::setSelection(QRect const& rect, QItemSelectionModel::SelectionFlags command)
