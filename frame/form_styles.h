@@ -2,6 +2,10 @@
 
 #include "platform/control.h"
 
+#include <algorithm>
+#include <functional>
+#include <span>
+
 // How the controls of a form look: the styles that the rows of its table name.
 
 inline constexpr Color kResultColor = {220, 84, 173};
@@ -17,6 +21,12 @@ inline constexpr ControlProperties hiddenDisabled = {.visible = false, .enabled 
 inline constexpr ControlProperties hiddenReadOnly = {.visible = false, .enabled = false, .readOnly = true};
 
 } // namespace form_style
+
+/// Whether each of these tab numbers is higher than the one before it.
+constexpr bool IsRising(std::span<int const> tabs)
+{
+    return std::ranges::adjacent_find(tabs, std::greater_equal()) == tabs.end();
+}
 
 /// The properties of one row: those of its style, with its own caption, place and tab number.
 constexpr ControlProperties RowProperties(ControlProperties style, std::string_view caption, int left,

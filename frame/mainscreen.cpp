@@ -10,6 +10,20 @@ namespace {
 
 constexpr int kMaxLengthOfAmax = 3;
 
+// Behind the frame of the grading scale the rows stand in the order of the keyboard, and so do those in the box.
+constexpr int kTabs[] = {
+#define CONTROL(tab, ...) tab,
+#define CHILD(...)
+#include "frame/mainscreen.def"
+};
+static_assert(IsRising(std::span(kTabs).subspan(1)));
+
+constexpr int kTabsInBox[] = {
+#define CHILD(tab, ...) tab,
+#include "frame/mainscreen.def"
+};
+static_assert(IsRising(kTabsInBox));
+
 constexpr std::string_view kFormOrder[] = {
 #define BAND_ROW(tab, maximum, l1, t1, w1, h1, minimum, ...) #maximum, #minimum,
 #include "frame/mainscreen.def"
@@ -100,7 +114,7 @@ void mainscreen::CreateControls()
 #define SECTION(function)                                                                                    \
     void mainscreen::function()                                                                              \
     {
-#define END_SECTION(function) }
+#define END_SECTION() }
 #define CONTROL(tab, type, name, caption, left, top, width, height, style)                                   \
     CREATE(tab, type, name, caption, left, top, width, height, style, nullptr)
 #define CHILD(tab, type, name, caption, left, top, width, height, style)                                     \

@@ -4,6 +4,16 @@
 #include "frame/mainscreen.h"
 #include "frame/menu.h"
 
+namespace {
+
+constexpr int kTabs[] = {
+#define CONTROL(tab, ...) tab,
+#include "presenter/presenter.def"
+};
+static_assert(IsRising(kTabs), "the rows stand in the order of the keyboard");
+
+} // namespace
+
 class Window1& Window1()
 {
     if (Window* const open = _GetImplicitWindow("Window1")) {
