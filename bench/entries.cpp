@@ -1,5 +1,5 @@
 #include "bench/measure.h"
-#include "frame/mainscreen.h"
+#include "frame/form_state.h"
 #include "platform/doors.h"
 #include "presenter/presenter.h"
 #include "session/history.h"
@@ -58,10 +58,10 @@ struct Stock {
 void FillTo(Integer entries)
 {
     class mainscreen& form = ::mainscreen();
-    if (form.ListBox1().ListCount() > entries) {
+    if (EntryCount(form) > entries) {
         DeleteHistory(form);
     }
-    for (Integer entry = form.ListBox1().ListCount() + 1; entry <= entries; ++entry) {
+    for (Integer entry = EntryCount(form) + 1; entry <= entries; ++entry) {
         form.numstudents().Text(Str(entry));
         AppendEntry(form, entry, 90.0, 3.0, 90);
     }

@@ -31,7 +31,6 @@ private:
     std::unique_ptr<QFile> file_;
     std::string buffer_; ///< read from the file and not yet returned
     std::string fault_;
-    bool isStart_ = true;
 };
 
 /// A file being written. Nothing reaches the disk before Close, which replaces the old file atomically; after a

@@ -18,7 +18,6 @@ public:
     /// Removes one row; later rows move up, and the last one that remains comes into sight.
     void RemoveRow(std::int64_t row);
     void DeleteAllRows();
-    [[nodiscard]] std::int64_t ListCount() const;
 
     /// The text of a row's first column.
     [[nodiscard]] std::string List(std::int64_t row) const;
@@ -26,7 +25,6 @@ public:
     void Cell(std::int64_t row, int column, std::string_view text);
     void CellAlignment(std::int64_t row, int column, Alignment alignment);
 
-    [[nodiscard]] int ColumnCount() const;
     void ColumnCount(int count);
     /// Widths in pixels, separated by commas; columns without one share what is left.
     void ColumnWidths(std::string_view widths);

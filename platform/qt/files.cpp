@@ -53,11 +53,7 @@ std::string TextInputStream::ReadLine()
     std::string const bytes = buffer_.substr(0, length);
     bool const isPair = buffer_.compare(length, 2, "\r\n") == 0;
     buffer_.erase(0, length + (isPair ? 2 : 1));
-    QString line = ToQt(bytes);
-    if (std::exchange(isStart_, false) && line.startsWith(QChar::ByteOrderMark)) {
-        line.remove(0, 1);
-    }
-    return FromQt(line);
+    return FromQt(ToQt(bytes)); // without a byte order mark, and with invalid bytes replaced
 }
 
 void TextInputStream::Close()

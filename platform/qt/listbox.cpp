@@ -54,11 +54,6 @@ void Listbox::DeleteAllRows()
     View(*this).rows().clear();
 }
 
-std::int64_t Listbox::ListCount() const
-{
-    return View(*this).rows().rowCount();
-}
-
 std::string Listbox::List(std::int64_t row) const
 {
     return Cell(row, 0);
@@ -78,11 +73,6 @@ void Listbox::CellAlignment(std::int64_t row, int column, Alignment alignment)
 {
     Qt::Alignment const side = alignment == Right ? Qt::AlignRight : Qt::AlignLeft;
     View(*this).rows().setAlignment(ToRow(row), column, side);
-}
-
-int Listbox::ColumnCount() const
-{
-    return View(*this).rows().columnCount();
 }
 
 void Listbox::ColumnCount(int count)

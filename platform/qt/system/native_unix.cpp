@@ -13,12 +13,13 @@ char const* const kLineEnd = "\n";
 
 QString FlushToDisk(int handle)
 {
-    int result = 0;
-    do {
-        result = ::fsync(handle);
-    } while (result != 0 && errno == EINTR);
-    bool const hasNone = errno == EINVAL || errno == ENOTSUP; // a file system that keeps nothing back
-    return result == 0 || hasNone ? QString() : qt_error_string(errno);
+    while (::fsync(handle) != 0) {
+        if (errno != EINTR) {
+            bool const isNeeded = errno != EINVAL && errno != ENOTSUP; // some file systems keep nothing back
+            return isNeeded ? qt_error_string(errno) : QString();
+        }
+    }
+    return {};
 }
 
 void UseStartersConsole() {} // the streams are connected from the start
@@ -59,7 +60,6 @@ void HandleSignals(std::function<void()> const& end)
     }
     for (int const pipeEnd : signalPipe) {
         ::fcntl(pipeEnd, F_SETFD, FD_CLOEXEC);
-        ::fcntl(pipeEnd, F_SETFL, O_NONBLOCK);
     }
     auto* const notifier = new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, qApp);
     QObject::connect(notifier, &QSocketNotifier::activated, notifier, end);

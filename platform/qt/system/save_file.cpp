@@ -8,15 +8,14 @@
 
 namespace {
 
-/// The file system's reason, or one of ours where it has none.
+/// The file system's reason, or ours where its own would mislead.
 QString Explain(QString const& path, QString const& reason)
 {
     constexpr int kMaxName = 248; // bytes; the temporary beside the file needs seven more, of 255
     if (QFile::encodeName(QFileInfo(path).fileName()).size() > kMaxName) {
         return QStringLiteral("its name is too long");
     }
-    bool const saysNothing = reason.isEmpty() || reason == QLatin1String("Unknown error");
-    return saysNothing ? QStringLiteral("it could not be written to its end") : reason;
+    return reason;
 }
 
 /// Writes and flushes. Left to itself the toolkit would notice a full disk only after the old file is gone.

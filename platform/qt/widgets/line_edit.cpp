@@ -205,10 +205,6 @@ void LineEdit::dropEvent(QDropEvent* event)
 {
     QDragLeaveEvent leave;
     dragLeaveEvent(&leave);
-    if (isReadOnly() || !event->mimeData()->hasText()) {
-        event->ignore();
-        return;
-    }
     event->acceptProposedAction();
     QMetaObject::invokeMethod(
         this,

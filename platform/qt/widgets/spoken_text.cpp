@@ -42,9 +42,6 @@ public:
 /// A screen reader asks for the text a moment later, so it stays until the next one comes.
 void SpeakIn(QWidget& window, QString const& text)
 {
-    if (!QAccessible::isActive()) {
-        return;
-    }
     static QPointer<QObject> spoken;
     delete spoken;
     spoken = new QObject(&window);
