@@ -63,6 +63,13 @@ QString RowsOf(QTableView const& list)
     return rows;
 }
 
+bool IsExpected(MessageBoxRequest const& request, TestSession::Box const& box)
+{
+    bool const isWhole = !box.text.ends_with(' ');
+    return (isWhole ? request.text == box.text : request.text.starts_with(box.text)) &&
+           request.title.empty() && request.question == (box.answer != 0);
+}
+
 void Drop(QWidget* field, QString const& text)
 {
     QMimeData data;
@@ -87,8 +94,7 @@ TestSession::TestSession(std::vector<Box> boxes) : expectedBoxes_(std::move(boxe
     RealDoors();
     PlatformDoors().messageBox = [this](MessageBoxRequest const& request) {
         lastBox = request.text;
-        if (isBoxUp_ || expectedBoxes_.empty() || !request.text.starts_with(expectedBoxes_.front().text) ||
-            request.question != (expectedBoxes_.front().answer != 0)) {
+        if (isBoxUp_ || expectedBoxes_.empty() || !IsExpected(request, expectedBoxes_.front())) {
             QTest::qFail(("unexpected box: " + request.text).c_str(), __FILE__, __LINE__);
             return kNo;
         }

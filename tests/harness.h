@@ -44,7 +44,7 @@ class TestSession {
     Q_DISABLE_COPY(TestSession)
 
 public:
-    /// A box whose text starts so, and the answer to it; a notice has no answer.
+    /// A box with this text, or one that starts so if it ends with a blank, and the answer; a notice has none.
     struct Box {
         std::string text;
         int answer = 0;

@@ -67,6 +67,7 @@ struct Writing {
     // ties of seven digits go to the even one; never fewer digits than the whole part has
     {100000.25, "100000.2", "100000.25"}, {100000.75, "100000.8", "100000.75"}, {1000000.5, "1000000", "1000000.5"},
     {1000001.5, "1000002", "1000001.5"}, {9999999.5, "10000000", "9999999.5"}, {12345678.9, "12345679", "12345678.9"},
+    {9007199254740993.0, "9007199254740992"}, // whole numbers keep all digits
     {Limits::quiet_NaN(), "NaN"},
 };
 // clang-format on

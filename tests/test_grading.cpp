@@ -135,7 +135,7 @@ private slots:
         TestSession const session;
         session.play("total=30" + u"; missed=3 Return"_s.repeated(20));
         auto const* const list = session.widget<QTableView>("ListBox1");
-        auto const cell = [list](int column) { return list->model()->index(0, column); };
+        auto const cell = [list](int column) { return list->model()->index(19, column); };
         QVERIFY(list->columnWidth(0) == 20 && list->columnWidth(1) == 65);
         QCOMPARE(list->visualRect(cell(0)).height(), 16);
         QVERIFY((cell(1).data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight) != 0);
@@ -144,6 +144,8 @@ private slots:
         QVERIFY(bar->maximum() > 0 && bar->value() == bar->maximum());
         session.play("EditUndo");
         QCOMPARE(bar->value(), bar->maximum());
+        session.play("FileReset");
+        QCOMPARE(bar->maximum(), 0);
     }
 };
 

@@ -84,6 +84,17 @@ bool ShowsFocus(QWidget& control)
     return CountClear(focused, PictureOf(control), 3) >= control.width() + control.height();
 }
 
+/// What of a list two pictures show differently.
+QRect Difference(QImage const& one, QImage const& other)
+{
+    QRect found;
+    for (int i = 0; i < one.width() * one.height(); ++i) {
+        QPoint const place(i % one.width(), i / one.width());
+        found |= one.pixel(place) == other.pixel(place) ? QRect() : QRect(place, QSize(1, 1));
+    }
+    return found;
+}
+
 void UseStyle(QString const& style, Theme const& theme)
 {
     QPalette palette(theme.window, theme.window);
@@ -103,6 +114,26 @@ class Looks final : public QObject {
     Q_OBJECT
 
 private slots:
+    void aListDrawsEachCellInItsPlaceAndSelectedRowsInTheirColours()
+    {
+        TestSession const session;
+        session.enterScores("30", {"3", "6", "9"});
+        auto* const list = session.widget<QTableView>("ListBox1");
+        auto const changedBy = [list](auto const& act) {
+            QImage const before = list->viewport()->grab().toImage();
+            act();
+            return Difference(before, list->viewport()->grab().toImage());
+        };
+        // The columns are 20 and 65 pixels wide, the rows 16 high.
+        QRect const number = changedBy([&] { session.form().ListBox1().Cell(1, 1, ""); });
+        QVERIFY(QRect(20, 16, 65, 16).contains(number) && number.right() > 75);
+        QRect const percent = changedBy([&] { session.form().ListBox1().Cell(2, 2, ""); });
+        QVERIFY(QRect(85, 32, 20, 16).contains(percent) && percent.left() < 90);
+        QRect const selected = changedBy([&] { session.play("focus ListBox1; key Down; key Down"); });
+        QCOMPARE(selected, QRect(0, 16, list->viewport()->width(), 16));
+        QCOMPARE(list->viewport()->grab().toImage().pixelColor(50, 17), list->palette().color(QPalette::Highlight));
+    }
+
     void cleanupTestCase() { UseStyle(u"Fusion"_s, kThemes[0]); }
 
     void everyTextIsLegibleAndEveryStopShowsItsFocus_data()

@@ -8,6 +8,18 @@
 
 namespace {
 
+/// What a screen reader says; it asks for it a moment after it appears.
+QString SpokenIn(QWidget const& window)
+{
+    for (QObject* const child : window.children()) {
+        QAccessibleInterface const* const spoken = QAccessible::queryAccessibleInterface(child);
+        if (spoken != nullptr && spoken->role() == QAccessible::Notification) {
+            return spoken->parent()->object() == &window ? spoken->text(QAccessible::Name) : QString();
+        }
+    }
+    return {};
+}
+
 /// Presses the left button at this time in milliseconds and releases it.
 void ClickAt(QWidget* widget, quint64 time)
 {
@@ -19,11 +31,32 @@ void ClickAt(QWidget* widget, quint64 time)
     }
 }
 
-/// Chooses an item of a field's context menu by its underlined letter.
-void ChooseInContextMenu(QWidget* field, Qt::Key letter)
+void OpenContextMenu(QWidget* field)
 {
     QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(5, 5), field->mapToGlobal(QPoint(5, 5)));
     QCoreApplication::sendEvent(field, &event);
+}
+
+/// What can be chosen in a field's context menu.
+QString ContextMenuOf(QWidget* field)
+{
+    OpenContextMenu(field);
+    QStringList texts;
+    for (QAction const* const item : QApplication::activePopupWidget()->actions()) {
+        if (item->isEnabled() && !item->isSeparator()) {
+            texts += QString(item->text()).remove(u'&');
+        }
+    }
+    QApplication::activePopupWidget()->close();
+    field->activateWindow();
+    static_cast<void>(QTest::qWaitForWindowActive(field->window()));
+    return texts.join(u", "_s);
+}
+
+/// Chooses an item of a field's context menu by its underlined letter.
+void ChooseInContextMenu(QWidget* field, Qt::Key letter)
+{
+    OpenContextMenu(field);
     QTest::keyClick(QApplication::activePopupWidget(), letter);
     QVERIFY(QApplication::activePopupWidget() == nullptr || QApplication::activePopupWidget()->close());
 }
@@ -85,6 +118,12 @@ private slots:
     void theContextMenuKeepsToTheRulesOfTheField()
     {
         TestSession const session;
+        QGuiApplication::clipboard()->clear();
+        session.setFields("percentage=90");
+        QCOMPARE(ContextMenuOf(session.enterField("percentage")), "Copy, Select All"_L1);
+        QCOMPARE(ContextMenuOf(session.enterField("missed")), QString());
+        session.play("keys 5; key Shift+Left; key Ctrl+C");
+        QCOMPARE(ContextMenuOf(session.field("missed")), "Undo, Cut, Copy, Paste, Clear, Select All"_L1);
         QLineEdit* const amax = session.enterField("amax");
         QGuiApplication::clipboard()->setText(u"\n1\n2345\n"_s);
         ChooseInContextMenu(amax, Qt::Key_P);
@@ -93,20 +132,52 @@ private slots:
         ChooseInContextMenu(amax, Qt::Key_T);
         session.expectFields("amax=");
         QCOMPARE(QGuiApplication::clipboard()->text(), "1 2"_L1);
-        ChooseInContextMenu(session.field("percentage"), Qt::Key_P);
-        session.expectFields("percentage=");
     }
 
     void selectedRowsOfAListAreCopiedForASpreadsheet()
     {
         TestSession const session;
-        session.enterScores("30", {"3", "6", "9"});
-        session.play("focus ListBox1; key Down; key Shift+Down; key Ctrl+C"); // the first row and one more
-        QCOMPARE(QGuiApplication::clipboard()->text(), "1\t90\t%\n2\t80\t%"_L1);
-        session.play("key End; key Ctrl+C");
-        QCOMPARE(QGuiApplication::clipboard()->text(), "3\t70\t%"_L1);
-        session.play("key Home; key Ctrl+C");
-        QCOMPARE(QGuiApplication::clipboard()->text(), "1\t90\t%"_L1);
+        session.play("total=30" + u"; missed=3 Return"_s.repeated(20));
+        auto const* const list = session.widget<QTableView>("ListBox1");
+        QString const nextPage = QString::number(1 + list->viewport()->height() / 16); // pixels of a row
+        session.play("focus ListBox1");
+        for (auto const& [key, numbers] : std::initializer_list<std::pair<QString, QString>>{
+                 {u"Down"_s,       u"1"_s  },
+                 {u"Shift+Down"_s, u"1 2"_s},
+                 {u"End"_s,        u"20"_s },
+                 {u"Up"_s,         u"19"_s },
+                 {u"Down"_s,       u"20"_s },
+                 {u"Down"_s,       u"20"_s },
+                 {u"Home"_s,       u"1"_s  },
+                 {u"PgDown"_s,     nextPage},
+                 {u"PgUp"_s,       u"1"_s  },
+                 {u"Up"_s,         u"1"_s  }
+        }) {
+            session.play("key " + key + "; key Ctrl+C");
+            QString const rows = QString(numbers).replace(u" "_s, u"\t90\t%\n"_s) + u"\t90\t%"_s;
+            QCOMPARE(QGuiApplication::clipboard()->text(), rows);
+            QVERIFY(list->viewport()->rect().contains(list->visualRect(list->currentIndex())));
+        }
+    }
+
+    void aScreenReaderHearsWhatWasGradedAndUndone()
+    {
+        TestSession const session;
+        auto const* const rows = session.widget<QTableView>("ListBox1")->model();
+        QCOMPARE(rows->headerData(0, Qt::Horizontal).toString(), "Student"_L1);
+        QCOMPARE(rows->headerData(1, Qt::Horizontal).toString(), "Percentage"_L1);
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0) // later ones leave nothing behind that a test could ask
+        for (auto const& [acts, words] : std::initializer_list<std::pair<QString, QString>>{
+                 {u"total=30; missed=3 Return"_s, u"90 percent, A-"_s     },
+                 {u"missed=4 Return"_s,           u"86.66667 percent, B"_s},
+                 {u"missed=5 Return; EditUndo"_s, u"2 students"_s         },
+                 {u"EditUndo"_s,                  u"1 student"_s          },
+                 {u"EditUndo"_s,                  u"no students"_s        }
+        }) {
+            session.play(acts);
+            QCOMPARE(SpokenIn(*session.window()), words);
+        }
+#endif
     }
 
     void anAssistiveEditIsAnsweredFirstAndThenTyped()

@@ -108,7 +108,8 @@ private slots:
             };
             if (entries > 160) {
                 session.expectBox(
-                    "Gradeloom will only print the first 160 entries. If you need to print more scores");
+                    "Gradeloom will only print the first 160 entries. If you need to print more "
+                    "scores than 160, please contact the author at ");
             }
             session.play("FilePrint");
             CompareReports(ReadPdf(session.fileToChoose), ReportOf(session));

@@ -1,0 +1,89 @@
+#include "tests/harness.h"
+
+#include <QMenuBar>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTemporaryFile>
+
+namespace {
+
+// As wide as the main window with its frame, and less high.
+constexpr char const* kScreen = R"({"screens": [{"name": "small", "x": 0, "y": 0, "width": 721, "height": 400,
+                                "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+
+bool IsInSight(QWidget const& control, QRect const& part)
+{
+    return control.visibleRegion().boundingRect().contains(part);
+}
+
+} // namespace
+
+/// The program on a screen that its windows do not fit on.
+class SmallScreen final : public QObject {
+    Q_OBJECT
+
+private slots:
+    void aWindowIsNoLargerThanTheScreenAndTheOtherSideHasRoomForTheScrollBar()
+    {
+        TestSession const session;
+        ::Window1();
+        ::Author();
+        auto const* const area = session.widget<QScrollArea>(QString());
+        int const height = 400 - 48 - session.window()->menuBar()->sizeHint().height();
+        QCOMPARE(area->size(), QSize(721 - 16, height));
+        int const bar = area->verticalScrollBar()->width();
+        QCOMPARE(area->viewport()->size(), QSize(705 - bar, height - area->horizontalScrollBar()->height()));
+        QCOMPARE(area->palette().color(QPalette::Window), area->widget()->palette().color(QPalette::Window));
+        QCOMPARE(session.widget<QScrollArea>(QString(), "Window1")->size(), QSize(631 + bar, height));
+        QVERIFY(session.widget<QScrollArea>(QString(), "Author") == nullptr);
+    }
+
+    void whatHasTheFocusIsInSight()
+    {
+        TestSession const session;
+        session.play("total=30" + u"; missed=3 Return"_s.repeated(20));
+        session.play("focus total; key Tab");
+        QWidget const* const first = QApplication::focusWidget();
+        int stops = 0;
+        do {
+            session.play("key Tab");
+            QWidget const* const control = QApplication::focusWidget();
+            ++stops;
+            QVERIFY2(qobject_cast<QTableView const*>(control) != nullptr ||
+                         IsInSight(*control, control->rect()),
+                     qPrintable(control->objectName()));
+        } while (QApplication::focusWidget() != first);
+        QVERIFY(stops > 40);
+        auto const* const list = session.widget<QTableView>("ListBox1");
+        for (char const* const key : {"Home", "End", "Home"}) {
+            session.play(u"focus ListBox1; key "_s + key);
+            QVERIFY2(IsInSight(*list->viewport(), list->visualRect(list->currentIndex())), key);
+        }
+    }
+
+    void pageKeysScrollTheWindowAndArrowsDoNot()
+    {
+        TestSession const session;
+        auto const* const area = session.widget<QScrollArea>(QString());
+        session.play("focus total; key Down");
+        QCOMPARE(area->verticalScrollBar()->value(), 0);
+        session.play("key PgDown");
+        QVERIFY(area->verticalScrollBar()->value() > 0);
+        session.play("key PgUp");
+        QCOMPARE(area->verticalScrollBar()->value(), 0);
+    }
+};
+
+int main(int count, char** arguments)
+{
+    QTemporaryFile screen;
+    if (!screen.open() || screen.write(kScreen) < 0 || !screen.flush()) {
+        return 1;
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(screen.fileName()));
+    SmallScreen tests;
+    return RunTests(tests, count, arguments);
+}
+
+#include "test_small_screen.moc"
