@@ -131,7 +131,8 @@ private slots:
         QVERIFY(QRect(85, 32, 20, 16).contains(percent) && percent.left() < 90);
         QRect const selected = changedBy([&] { session.play("focus ListBox1; key Down; key Down"); });
         QCOMPARE(selected, QRect(0, 16, list->viewport()->width(), 16));
-        QCOMPARE(list->viewport()->grab().toImage().pixelColor(50, 17), list->palette().color(QPalette::Highlight));
+        QCOMPARE(list->viewport()->grab().toImage().pixelColor(50, 17),
+                 list->palette().color(QPalette::Highlight));
     }
 
     void cleanupTestCase() { UseStyle(u"Fusion"_s, kThemes[0]); }
