@@ -18,8 +18,10 @@ constexpr int kRowHeight = 16; // pixels
 
 } // namespace
 
-ListView::ListView(QWidget* parent) : QTableView(parent), rows_(new ListModel(this))
+/// The vertical header gets no rows, since it would become slower with each of them.
+ListView::ListView(QWidget* parent, ListModel* rows) : QTableView(parent), rows_(rows)
 {
+    rows_->setParent(this);
     verticalHeader()->hide();
     horizontalHeader()->hide();
     findChild<QAbstractButton*>()->hide(); // the corner between them
@@ -30,19 +32,12 @@ ListView::ListView(QWidget* parent) : QTableView(parent), rows_(new ListModel(th
     setSelectionBehavior(SelectRows);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerPixel);
-}
-
-/// Connects the view to its rows. That is most of what a list costs, so it is not done for one that is never shown. The
-/// vertical header gets no rows, since it would become slower with each of them.
-void ListView::takeRows()
-{
-    if (model() == nullptr) {
-        horizontalHeader()->setModel(rows_);
-        // NOLINTNEXTLINE(bugprone-parent-virtual-call): past the vertical header
-        QAbstractItemView::setModel(rows_);
-        connect(rows_, &ListModel::rowsRemoved, this, &ListView::updateGeometries);
-        connect(rows_, &ListModel::modelReset, this, &ListView::updateGeometries);
-    }
+    setSelectionMode(SingleSelection);
+    horizontalHeader()->setModel(rows_);
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): past the vertical header
+    QAbstractItemView::setModel(rows_);
+    connect(rows_, &ListModel::rowsRemoved, this, &ListView::updateGeometries);
+    connect(rows_, &ListModel::modelReset, this, &ListView::updateGeometries);
 }
 
 /// The headers are hidden and need not know what is selected.
@@ -52,17 +47,8 @@ void ListView::setSelectionModel(QItemSelectionModel* selection)
     QAbstractItemView::setSelectionModel(selection);
 }
 
-void ListView::setVisible(bool visible)
-{
-    if (visible) {
-        takeRows();
-    }
-    QTableView::setVisible(visible);
-}
-
 void ListView::setColumnWidths(QString const& widths)
 {
-    takeRows();
     QStringList const parts = widths.split(u',', Qt::SkipEmptyParts);
     for (int column = 0; column < rows_->columnCount(); ++column) {
         bool const stated = column < parts.size();

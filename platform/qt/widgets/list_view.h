@@ -8,12 +8,10 @@
 /// of its rows itself, since the vertical header of a table view grows slow with the number of rows.
 class ListView final : public QTableView {
 public:
-    explicit ListView(QWidget* parent);
+    /// Takes ownership of the rows.
+    ListView(QWidget* parent, ListModel* rows);
 
-    [[nodiscard]] ListModel& rows() { return *rows_; }
-    [[nodiscard]] ListModel const& rows() const { return *rows_; }
     void setColumnWidths(QString const& widths);
-    void setVisible(bool visible) override;
     void setSelectionModel(QItemSelectionModel* selection) override;
 
     [[nodiscard]] QRect visualRect(QModelIndex const& index) const override;
@@ -33,7 +31,6 @@ protected:
     [[nodiscard]] QRegion visualRegionForSelection(QItemSelection const& selection) const override;
 
 private:
-    void takeRows();
     [[nodiscard]] int rowAtHeight(int y) const;
     [[nodiscard]] QRect rowRect(int first, int last) const;
     void drawRow(QPainter& painter, int row) const;
