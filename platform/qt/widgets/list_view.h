@@ -4,8 +4,8 @@
 
 #include <QTableView>
 
-/// The widget of a list: rows of one height, without grid, visible header or elided texts. It computes the places
-/// of its rows itself, since the vertical header of a table view grows slow with the number of rows.
+/// The widget of a list: rows of one height, without grid, headers or elided texts. It computes the places of its
+/// cells itself: the headers of a table view make it slow to start, and slower with each row.
 class ListView final : public QTableView {
 public:
     /// Takes ownership of the rows.
@@ -33,9 +33,11 @@ protected:
 private:
     [[nodiscard]] int rowAtHeight(int y) const;
     [[nodiscard]] QRect rowRect(int first, int last) const;
+    [[nodiscard]] int columnLeft(int column) const;
     void drawRow(QPainter& painter, int row) const;
     void copySelectedRows() const;
     void showCurrentRow();
 
     ListModel* rows_;
+    std::vector<int> widths_; ///< of the first columns
 };
