@@ -4,8 +4,12 @@
 
 #include <cstdint>
 
+class ListModel;
+class ListView;
+
 /// A list of rows with one or more columns of text. Rows and columns count from 0; a read outside the list
-/// returns an empty text, a write outside it is ignored. Appending costs the same at any length.
+/// returns an empty text, a write outside it is ignored. Appending costs the same at any length. A list that is
+/// not shown consists of its rows alone; there, widths and the type of selection are ignored.
 class Listbox final : public Control {
 public:
     Listbox(QWidget* parent, std::string const& name);
@@ -34,4 +38,10 @@ public:
     void RowSelectionType(int type);
 
     void Apply(ControlProperties const& properties) override;
+
+private:
+    void ShowLastRow();
+
+    ListModel* rows_;          ///< a child of the widget
+    ListView* view_ = nullptr; ///< the widget, once the list is shown
 };

@@ -48,10 +48,8 @@ std::vector<std::pair<QString, QString>> NamesAndTexts(QString const& fields)
     return found;
 }
 
-/// A list that has not been shown yet keeps its rows from the view.
-QString RowsOf(QTableView const& list)
+QString RowsOf(QAbstractTableModel const& model)
 {
-    auto const& model = *list.findChild<QAbstractTableModel*>();
     QString rows;
     for (int i = 0; i < model.rowCount() * model.columnCount(); ++i) {
         int const column = i % model.columnCount();
@@ -154,8 +152,9 @@ QMainWindow* TestSession::window(char const* name) const
 
 QString TestSession::text(QString const& name, char const* in) const
 {
-    auto const* const list = widget<QTableView>(name, in);
-    return list != nullptr ? RowsOf(*list) : widget(name, in)->property("text").toString();
+    QWidget const* const control = widget(name, in);
+    auto const* const rows = control->findChild<QAbstractTableModel*>();
+    return rows != nullptr ? RowsOf(*rows) : control->property("text").toString();
 }
 
 QString TestSession::texts(QString const& names, char const* in) const

@@ -136,7 +136,8 @@ private slots:
         session.play("total=30" + u"; missed=3 Return"_s.repeated(20));
         auto const* const list = session.widget<QTableView>("ListBox1");
         auto const cell = [list](int column) { return list->model()->index(19, column); };
-        QVERIFY(list->columnWidth(0) == 20 && list->columnWidth(1) == 65);
+        QVERIFY(list->visualRect(cell(0)).width() == 20 && list->visualRect(cell(1)).width() == 65);
+        QCOMPARE(list->visualRect(cell(2)).right(), list->viewport()->rect().right());
         QCOMPARE(list->visualRect(cell(0)).height(), 16);
         QVERIFY((cell(1).data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight) != 0);
         QVERIFY((cell(2).data(Qt::TextAlignmentRole).toInt() & Qt::AlignLeft) != 0);

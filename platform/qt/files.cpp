@@ -77,7 +77,7 @@ std::string TextOutputStream::Close()
     if (makesFolder_ && !QDir().mkpath(QFileInfo(path).path())) {
         return "its folder could not be made";
     }
-    return FromQt(ReplaceFile(path, QByteArray::fromStdString(text_)));
+    return FromQt(ReplaceFile(path, text_));
 }
 
 FolderItem::FolderItem(std::string path, bool makesFolder) : path_(std::move(path)), makesFolder_(makesFolder)

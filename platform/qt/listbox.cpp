@@ -12,46 +12,46 @@ int ToRow(std::int64_t row)
     return row < 0 || row > std::numeric_limits<int>::max() ? -1 : static_cast<int>(row);
 }
 
-ListView& View(Listbox const& list)
-{
-    return static_cast<ListView&>(list.Widget());
-}
-
-void ShowLastRow(Listbox const& list)
-{
-    if (!View(list).isHidden()) {
-        View(list).scrollToBottom();
-    }
-}
-
 } // namespace
 
-Listbox::Listbox(QWidget* parent, std::string const& name) : Control(new ListView(parent), name)
+Listbox::Listbox(QWidget* parent, std::string const& name)
+    : Control(new QWidget(parent), name), rows_(new ListModel(&Widget()))
 {
-    RowSelectionType(0);
 }
 
+/// Most of what a list costs is its view, so one that is never shown has none.
 void Listbox::Apply(ControlProperties const& properties)
 {
+    if (properties.visible && view_ == nullptr) {
+        view_ = new ListView(Widget().parentWidget(), rows_);
+        Replace(view_);
+    }
     Control::Apply(properties);
     ApplyFont(properties, 0);
 }
 
+void Listbox::ShowLastRow()
+{
+    if (view_ != nullptr) {
+        view_->scrollToBottom();
+    }
+}
+
 void Listbox::AddRow(std::string_view text)
 {
-    View(*this).rows().append(text);
-    ShowLastRow(*this);
+    rows_->append(text);
+    ShowLastRow();
 }
 
 void Listbox::RemoveRow(std::int64_t row)
 {
-    View(*this).rows().remove(ToRow(row));
-    ShowLastRow(*this);
+    rows_->remove(ToRow(row));
+    ShowLastRow();
 }
 
 void Listbox::DeleteAllRows()
 {
-    View(*this).rows().clear();
+    rows_->clear();
 }
 
 std::string Listbox::List(std::int64_t row) const
@@ -61,37 +61,41 @@ std::string Listbox::List(std::int64_t row) const
 
 std::string Listbox::Cell(std::int64_t row, int column) const
 {
-    return View(*this).rows().text(ToRow(row), column);
+    return rows_->text(ToRow(row), column);
 }
 
 void Listbox::Cell(std::int64_t row, int column, std::string_view text)
 {
-    View(*this).rows().setText(ToRow(row), column, text);
+    rows_->setText(ToRow(row), column, text);
 }
 
 void Listbox::CellAlignment(std::int64_t row, int column, Alignment alignment)
 {
     Qt::Alignment const side = alignment == Right ? Qt::AlignRight : Qt::AlignLeft;
-    View(*this).rows().setAlignment(ToRow(row), column, side);
+    rows_->setAlignment(ToRow(row), column, side);
 }
 
 void Listbox::ColumnCount(int count)
 {
-    View(*this).rows().setColumns(count);
+    rows_->setColumns(count);
 }
 
 void Listbox::ColumnWidths(std::string_view widths)
 {
-    View(*this).setColumnWidths(ToQt(widths));
+    if (view_ != nullptr) {
+        view_->setColumnWidths(ToQt(widths));
+    }
 }
 
 void Listbox::SpokenHeaders(std::string_view headers)
 {
-    View(*this).rows().setHeaders(ToQt(headers).split(u','));
+    rows_->setHeaders(ToQt(headers).split(u','));
 }
 
 void Listbox::RowSelectionType(int type)
 {
-    View(*this).setSelectionMode(type == 1 ? QAbstractItemView::ExtendedSelection
-                                           : QAbstractItemView::SingleSelection);
+    if (view_ != nullptr) {
+        view_->setSelectionMode(type == 1 ? QAbstractItemView::ExtendedSelection
+                                          : QAbstractItemView::SingleSelection);
+    }
 }

@@ -3,11 +3,12 @@
 #include <QString>
 
 #include <functional>
+#include <string_view>
 
 // What differs from one operating system to the next; the build chooses the file.
 
 /// How a line of text ends.
-extern char const* const kLineEnd;
+extern std::string_view const kLineEnd;
 
 /// Makes the system write a file's content to the disk. Returns the reason of a failure, empty if there was
 /// none.

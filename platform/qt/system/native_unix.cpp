@@ -9,7 +9,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-char const* const kLineEnd = "\n";
+std::string_view const kLineEnd = "\n";
 
 QString FlushToDisk(int handle)
 {

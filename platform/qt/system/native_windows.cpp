@@ -16,7 +16,7 @@ bool LeadsNowhere(DWORD stream)
 
 } // namespace
 
-char const* const kLineEnd = "\r\n";
+std::string_view const kLineEnd = "\r\n";
 
 QString FlushToDisk(int handle)
 {

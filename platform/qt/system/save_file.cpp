@@ -19,9 +19,9 @@ QString Explain(QString const& path, QString const& reason)
 }
 
 /// Writes and flushes. Left to itself the toolkit would notice a full disk only after the old file is gone.
-QString WriteAll(QSaveFile& file, QByteArray const& bytes)
+QString WriteAll(QSaveFile& file, QByteArrayView bytes)
 {
-    qint64 const written = file.write(bytes);
+    qint64 const written = file.write(bytes.data(), bytes.size());
     if (written == bytes.size()) {
         return FlushToDisk(file.handle());
     }
@@ -31,7 +31,7 @@ QString WriteAll(QSaveFile& file, QByteArray const& bytes)
 
 } // namespace
 
-QString ReplaceFile(QString const& path, QByteArray const& bytes)
+QString ReplaceFile(QString const& path, QByteArrayView bytes)
 {
     QFileInfo const place(path);
     if (place.exists() && !place.isFile()) {

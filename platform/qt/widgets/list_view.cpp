@@ -11,6 +11,7 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
@@ -18,62 +19,41 @@ constexpr int kRowHeight = 16; // pixels
 
 } // namespace
 
-ListView::ListView(QWidget* parent) : QTableView(parent), rows_(new ListModel(this))
+ListView::ListView(QWidget* parent, ListModel* rows) : QTableView(parent), rows_(rows)
 {
+    rows_->setParent(this);
     verticalHeader()->hide();
     horizontalHeader()->hide();
     findChild<QAbstractButton*>()->hide(); // the corner between them
-    horizontalHeader()->setMinimumSectionSize(1);
-    horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     setTabKeyNavigation(false);
     setEditTriggers(NoEditTriggers);
     setSelectionBehavior(SelectRows);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerPixel);
+    setSelectionMode(SingleSelection);
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): past both headers
+    QAbstractItemView::setModel(rows_);
+    connect(rows_, &ListModel::rowsRemoved, this, &ListView::updateGeometries);
+    connect(rows_, &ListModel::modelReset, this, &ListView::updateGeometries);
 }
 
-/// Connects the view to its rows. That is most of what a list costs, so it is not done for one that is never shown. The
-/// vertical header gets no rows, since it would become slower with each of them.
-void ListView::takeRows()
-{
-    if (model() == nullptr) {
-        horizontalHeader()->setModel(rows_);
-        // NOLINTNEXTLINE(bugprone-parent-virtual-call): past the vertical header
-        QAbstractItemView::setModel(rows_);
-        connect(rows_, &ListModel::rowsRemoved, this, &ListView::updateGeometries);
-        connect(rows_, &ListModel::modelReset, this, &ListView::updateGeometries);
-    }
-}
-
-/// The headers are hidden and need not know what is selected.
+/// The headers have no rows to select.
 void ListView::setSelectionModel(QItemSelectionModel* selection)
 {
     // NOLINTNEXTLINE(bugprone-parent-virtual-call): past both headers
     QAbstractItemView::setSelectionModel(selection);
 }
 
-void ListView::setVisible(bool visible)
-{
-    if (visible) {
-        takeRows();
-    }
-    QTableView::setVisible(visible);
-}
-
 void ListView::setColumnWidths(QString const& widths)
 {
-    takeRows();
-    QStringList const parts = widths.split(u',', Qt::SkipEmptyParts);
-    for (int column = 0; column < rows_->columnCount(); ++column) {
-        bool const stated = column < parts.size();
-        horizontalHeader()->setSectionResizeMode(column, stated ? QHeaderView::Fixed : QHeaderView::Stretch);
-        if (stated) {
-            setColumnWidth(column, parts[column].toInt());
-        }
+    widths_.clear();
+    for (QString const& width : widths.split(u',', Qt::SkipEmptyParts)) {
+        widths_.push_back(width.toInt());
     }
+    viewport()->update();
 }
 
-// --- the places of the rows
+// --- the places of the cells
 
 int ListView::verticalOffset() const
 {
@@ -90,19 +70,40 @@ QRect ListView::rowRect(int first, int last) const
     return {0, first * kRowHeight - verticalOffset(), viewport()->width(), (last - first + 1) * kRowHeight};
 }
 
+/// Where a column starts, and the one before it ends. Columns without a width have equal shares of what is left; pixels
+/// that remain go to the first of them.
+int ListView::columnLeft(int column) const
+{
+    auto const stated = std::min(static_cast<int>(widths_.size()), rows_->columnCount());
+    auto const widthOf = [this](int count) {
+        return std::accumulate(widths_.begin(), widths_.begin() + count, 0);
+    };
+    if (column <= stated) {
+        return widthOf(column);
+    }
+    int const others = rows_->columnCount() - stated;
+    int const room = std::max(viewport()->width() - widthOf(stated), 0);
+    int const before = column - stated;
+    return widthOf(stated) + before * (room / others) + std::min(before, room % others);
+}
+
 QRect ListView::visualRect(QModelIndex const& index) const
 {
     if (!index.isValid()) {
         return {};
     }
-    int const column = index.column();
-    return {columnViewportPosition(column), rowRect(index.row(), index.row()).top(), columnWidth(column),
-            kRowHeight};
+    int const left = columnLeft(index.column());
+    int const top = rowRect(index.row(), index.row()).top();
+    return {left, top, columnLeft(index.column() + 1) - left, kRowHeight};
 }
 
 QModelIndex ListView::indexAt(QPoint const& place) const
 {
-    return rows_->index(rowAtHeight(place.y()), columnAt(place.x()));
+    int column = -1;
+    while (column < rows_->columnCount() && columnLeft(column + 1) <= place.x()) {
+        ++column;
+    }
+    return rows_->index(rowAtHeight(place.y()), column);
 }
 
 void ListView::scrollTo(QModelIndex const& index, ScrollHint /*hint*/)
@@ -117,9 +118,6 @@ void ListView::scrollTo(QModelIndex const& index, ScrollHint /*hint*/)
 
 void ListView::updateGeometries()
 {
-    horizontalHeader()->setGeometry(0, 0, viewport()->width(), 0);
-    QMetaObject::invokeMethod(horizontalHeader(),
-                              "updateGeometries"); // a hidden one stretches its columns so
     verticalScrollBar()->setSingleStep(kRowHeight);
     verticalScrollBar()->setPageStep(viewport()->height());
     verticalScrollBar()->setRange(0, rows_->rowCount() * kRowHeight - viewport()->height());

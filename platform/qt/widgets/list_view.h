@@ -4,16 +4,14 @@
 
 #include <QTableView>
 
-/// The widget of a list: rows of one height, without grid, visible header or elided texts. It computes the places
-/// of its rows itself, since the vertical header of a table view grows slow with the number of rows.
+/// The widget of a list: rows of one height, without grid, headers or elided texts. It computes the places of its
+/// cells itself: the headers of a table view make it slow to start, and slower with each row.
 class ListView final : public QTableView {
 public:
-    explicit ListView(QWidget* parent);
+    /// Takes ownership of the rows.
+    ListView(QWidget* parent, ListModel* rows);
 
-    [[nodiscard]] ListModel& rows() { return *rows_; }
-    [[nodiscard]] ListModel const& rows() const { return *rows_; }
     void setColumnWidths(QString const& widths);
-    void setVisible(bool visible) override;
     void setSelectionModel(QItemSelectionModel* selection) override;
 
     [[nodiscard]] QRect visualRect(QModelIndex const& index) const override;
@@ -33,12 +31,13 @@ protected:
     [[nodiscard]] QRegion visualRegionForSelection(QItemSelection const& selection) const override;
 
 private:
-    void takeRows();
     [[nodiscard]] int rowAtHeight(int y) const;
     [[nodiscard]] QRect rowRect(int first, int last) const;
+    [[nodiscard]] int columnLeft(int column) const;
     void drawRow(QPainter& painter, int row) const;
     void copySelectedRows() const;
     void showCurrentRow();
 
     ListModel* rows_;
+    std::vector<int> widths_; ///< of the first columns
 };
