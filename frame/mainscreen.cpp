@@ -109,8 +109,7 @@ void mainscreen::CreateControls()
 
 // _CreateControls0 to _CreateControls3 create the rows of their sections.
 #define CREATE(tab, type, name, caption, left, top, width, height, style, parent)                            \
-    _SetProperties(Add<type>(#name, parent),                                                                 \
-                   RowProperties(form_style::style, caption, left, top, width, height, tab));
+    _SetProperties(Add<type>(#name, parent), {tab, caption, left, top, width, height, form_style::style});
 #define SECTION(function)                                                                                    \
     void mainscreen::function()                                                                              \
     {

@@ -9,22 +9,27 @@
 
 class QWidget;
 
-/// What a form states of a control. Places are device-independent pixels from the top left of the window's
-/// content, also for a control inside a group box. Each kind of control ignores what it has no use for.
-struct ControlProperties {
-    std::string_view caption = {};        ///< text of a label, a button, a check box or a group box
-    std::string_view accessibleName = {}; ///< what an input without a caption of its own is called
-    int left = 0;
-    int top = 0;
-    int width = 0;
-    int height = 0;
-    int tabIndex = 0;  ///< place in the keyboard order, lowest first, counted within the parent
+/// How a control looks. Each kind of control ignores what it has no use for.
+struct ControlStyle {
     int textSize = 12; ///< height of the font in pixels; 0 leaves it to the platform
     bool bold = false;
     bool visible = true;
     bool enabled = true;
     bool readOnly = false;                ///< text fields only
     std::optional<Color> background = {}; ///< text fields only; without one a field is white
+};
+
+/// What a form states of a control. Places are device-independent pixels from the top left of the window's
+/// content, also for a control inside a group box.
+struct ControlProperties {
+    int tabIndex; ///< place in the keyboard order, lowest first, counted within the parent
+    std::string_view
+        caption; ///< what it shows; what has no caption of its own is called so by assistive programs
+    int left;
+    int top;
+    int width;
+    int height;
+    ControlStyle style;
 };
 
 /// One control of a window. It owns the widget that the user sees and deletes it, so no event comes for a

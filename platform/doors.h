@@ -10,12 +10,12 @@ class QPrinter;
 struct MessageBoxRequest {
     std::string text;
     std::string title;
-    bool question = false;
+    bool question;
 };
 
 /// A file dialog that the program asks for, to choose a file to save or one to open.
 struct FileDialogRequest {
-    bool saving = false;
+    bool saving;
     std::string title;
     std::string prompt;
     std::string folder; ///< where it starts

@@ -19,8 +19,8 @@ class TopLevel;
 /// What a window's layout states of it; sizes are those of its content, in device-independent pixels.
 struct WindowProperties {
     std::string_view title;
-    int width = 0;
-    int height = 0;
+    int width;
+    int height;
     bool hasCloseButton = false;
     bool hasMinimizeButton = false;
     bool hasMaximizeButton = false;

@@ -30,7 +30,8 @@ std::optional<int> AnswerTo(bool isQuestion, Act const& act)
 
 void Press(QKeyCombination key)
 {
-    QTest::keyClick(QApplication::focusWidget(), key.key(), key.keyboardModifiers());
+    QString const text = key.key() < Qt::Key_Escape ? QString(QChar(key.key())).toLower() : QString();
+    QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), key.key(), text, key.keyboardModifiers());
 }
 
 /// Presses Return at this time in milliseconds.

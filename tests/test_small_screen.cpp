@@ -47,8 +47,10 @@ private slots:
         QWidget const* const first = QApplication::focusWidget();
         int stops = 0;
         do {
+            QWidget const* const before = QApplication::focusWidget();
             session.play("key Tab");
             QWidget const* const control = QApplication::focusWidget();
+            QVERIFY(control != before);
             ++stops;
             QVERIFY2(qobject_cast<QTableView const*>(control) != nullptr ||
                          IsInSight(*control, control->rect()),

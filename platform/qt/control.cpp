@@ -35,20 +35,20 @@ void Control::Apply(ControlProperties const& properties)
         place -= parent->pos();
     }
     widget_->setGeometry(QRect(place, QSize(properties.width, properties.height)));
-    widget_->setEnabled(properties.enabled);
-    widget_->setVisible(properties.visible);
-    widget_->setAccessibleName(ToQt(properties.accessibleName).simplified());
+    widget_->setEnabled(properties.style.enabled);
+    widget_->setVisible(properties.style.visible);
+    widget_->setAccessibleName(ToQt(properties.caption).simplified());
     tabIndex_ = properties.tabIndex;
 }
 
 void Control::ApplyFont(ControlProperties const& properties, int margins)
 {
     QFont font = QApplication::font();
-    if (properties.textSize > 0) {
-        font.setPixelSize(properties.textSize);
+    if (properties.style.textSize > 0) {
+        font.setPixelSize(properties.style.textSize);
     }
-    font.setBold(properties.bold);
-    if (properties.bold) {
+    font.setBold(properties.style.bold);
+    if (properties.style.bold) {
         font = FittedFont(font, ToQt(properties.caption), properties.width - margins);
     }
     widget_->setFont(font);

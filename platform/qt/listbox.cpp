@@ -22,7 +22,7 @@ Listbox::Listbox(QWidget* parent, std::string const& name)
 /// Most of what a list costs is its view, so one that is never shown has none.
 void Listbox::Apply(ControlProperties const& properties)
 {
-    if (properties.visible && view_ == nullptr) {
+    if (properties.style.visible && view_ == nullptr) {
         view_ = new ListView(Widget().parentWidget(), rows_);
         Replace(view_);
     }

@@ -56,9 +56,9 @@ void TextField::Apply(ControlProperties const& properties)
     Control::Apply(properties);
     ApplyFont(properties, kMargins);
     LineEdit& field = Field(*this);
-    field.setReadOnly(properties.readOnly);
-    if (properties.background) {
-        Color const& color = *properties.background;
+    field.setReadOnly(properties.style.readOnly);
+    if (properties.style.background) {
+        Color const& color = *properties.style.background;
         field.setPalette(FieldPalette(field.palette(), QColor(color.red, color.green, color.blue)));
     }
 }

@@ -5,11 +5,11 @@
 
 namespace {
 
-struct {
-    quint64 releaseTime = 0;
-    quint32 releasedKey = 0;
-    quint64 pressTime = 0;
-    bool isRepeat = false;
+struct { // all 0 and false at the start
+    quint64 releaseTime;
+    quint32 releasedKey;
+    quint64 pressTime;
+    bool isRepeat;
 } last;
 
 bool IsX11()
