@@ -17,6 +17,7 @@ std::optional<int> AnswerTo(bool isQuestion, Act const& act)
     QTimer::singleShot(0, qApp, [&] {
         auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         static_cast<void>(QTest::qWaitForWindowActive(box));
+        QCOMPARE(box->text(), "Delete <b>all</b>?"_L1);
         QCOMPARE(box->icon(), isQuestion ? QMessageBox::Question : QMessageBox::Information);
         act(*box, *box->findChild<QTimer*>());
         isOpen = box->isVisible();

@@ -183,6 +183,12 @@ private slots:
         QVERIFY(result->cursorPosition() == 0 && result->selectedText() == nines);
         session.play("focus total");
         QVERIFY(result->cursorPosition() == 0 && !result->hasSelectedText());
+        int const needed = result->fontMetrics().horizontalAdvance(nines) + 8; // with its border
+        for (int const width : {needed, needed - 1}) {
+            session.widget("percentage")->resize(width, 21);
+            session.setFields("percentage=" + nines);
+            QCOMPARE(result->toolTip(), width < needed ? nines : QString());
+        }
         session.setFields("percentage=1");
         QVERIFY(result->font().stretch() == normal && result->toolTip().isEmpty());
     }
