@@ -126,6 +126,11 @@ private slots:
         session.expectBox("The results could not be printed: no printer is set up.");
         session.play("FilePrint; EditUndo");
         session.printFault.clear();
+        session.setUpPrinter = [](QPrinter& printer) { printer.setOutputFileName(QString()); };
+        session.fileToChoose = u"a printer"_s;
+        session.expectBox("The results could not be printed: the printer \"\" did not take them.");
+        session.play("FilePrint");
+        session.setUpPrinter = nullptr;
         session.fileToChoose = session.pathOf("no/file");
         session.whileBoxIsUp = [&] { QVERIFY(!session.lastBox.ends_with(": .")); };
         session.expectBox("The results could not be printed to the file \"file\": ");

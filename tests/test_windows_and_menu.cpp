@@ -1,6 +1,8 @@
 #include "frame/author.h"
 #include "frame/startup.h"
 #include "platform/application.h"
+#include "platform/file_dialogs.h"
+#include "platform/printing.h"
 #include "platform/qt/system/native.h"
 #include "platform/runtime.h"
 #include "presenter/presenter.h"
@@ -8,6 +10,7 @@
 
 #include <QDir>
 #include <QMenu>
+#include <QPrinter>
 #include <QTimer>
 
 #include <csignal>
@@ -124,19 +127,34 @@ private slots:
     void anItemCanBeHiddenAndKeptOff()
     {
         TestSession const session;
-        MenuItem& undo = session.form().EditUndo();
+        MenuItem& close = session.form().FileClose();
         QList<QAction*> const items = session.menuItems();
-        QAction const* const shown = *std::ranges::find(items, u"EditUndo"_s, &QAction::objectName);
-        QVERIFY(undo.Visible() && undo.Enabled() && session.form().UntitledMenu2().Visible());
-        undo.AutoEnabled = false;
-        undo.Enabled(false);
-        undo.Visible(false);
-        QVERIFY(!shown->isVisible() && !shown->isEnabled() && !undo.Enabled() && !undo.Visible());
-        undo.AutoEnabled = true;
-        undo.Visible(true);
-        session.form().UntitledMenu2().Visible(true); // without a caption it stays hidden
-        session.play("focus missed");
-        QVERIFY(shown->isVisible() && undo.Enabled());
+        QAction const* const shown = *std::ranges::find(items, u"FileClose"_s, &QAction::objectName);
+        for (bool const isOn : {false, true}) {
+            close.AutoEnabled = isOn;
+            close.Enabled(false);
+            close.Visible(isOn);
+            session.play(isOn ? "focus total" : "focus missed");
+            QVERIFY(shown->isVisible() == isOn && close.Visible() == isOn && close.Enabled() == isOn);
+        }
+        session.form().UntitledMenu2().Visible(true);
+        QVERIFY(!items.last()->isVisible()); // without a caption it stays hidden
+    }
+
+    void aListIgnoresWhatIsOutsideOfIt()
+    {
+        TestSession const session;
+        session.enterScores("30", {"3"});
+        Listbox& list = session.form().ListBox1();
+        for (int const outside : {-1, 3}) {
+            list.Cell(outside, 0, "x");
+            list.Cell(0, outside, "x");
+            list.RemoveRow(outside);
+            QVERIFY(list.Cell(outside, 0).empty() && list.Cell(0, outside).empty());
+        }
+        session.expectFields("ListBox1=1,90,%");
+        list.ColumnCount(2);
+        session.expectFields("ListBox1=1,90");
     }
 
     void commandsAreOnByTheWindowInFrontAndTheFocus_data() { AddRows(kCommands); }
@@ -279,7 +297,10 @@ private slots:
         }
         QVERIFY(session.window() != nullptr);
         QCOMPARE(RuntimeExit(), 0);
-        QCOMPARE(ShowMessageBox({"Really?", "", true}), kNo); // a box that comes now is not shown
+        std::string fault;
+        QPrinter printer;
+        QVERIFY(ShowMessageBox({"Really?", "", true}) == kNo && !ShowFileDialog({true, "", "", "", ""}) &&
+                !ShowPrintDialog(printer, fault)); // what comes now is not shown
         Application const& app = *_RuntimeAppObject();
         QCOMPARE(app.LongVersion + app.ShortVersion + app.PackageInfo,
                  std::string("Gradeloom 1.2.2Gradeloom XGradeloom 1.2.2 Orrin Vale"));

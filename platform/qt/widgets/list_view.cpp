@@ -136,11 +136,6 @@ void ListView::scrollContentsBy(int dx, int dy)
     viewport()->scroll(dx, dy);
 }
 
-bool ListView::isIndexHidden(QModelIndex const& /*index*/) const
-{
-    return false;
-}
-
 // --- painting
 
 void ListView::paintEvent(QPaintEvent* event)

@@ -25,7 +25,6 @@ protected:
     void rowsInserted(QModelIndex const& parent, int first, int last) override;
     void scrollContentsBy(int dx, int dy) override;
     [[nodiscard]] int verticalOffset() const override;
-    [[nodiscard]] bool isIndexHidden(QModelIndex const& index) const override;
     [[nodiscard]] QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void setSelection(QRect const& rect, QItemSelectionModel::SelectionFlags command) override;
     [[nodiscard]] QRegion visualRegionForSelection(QItemSelection const& selection) const override;
