@@ -13,6 +13,8 @@ struct LoggedActs {
     {"keys of the window and the menu are not the field's", "focus missed; key Ctrl+C; key Ctrl+X; key Ctrl+R; "
      "key Ctrl+Return; key Return; key Enter; key Shift+Tab; key Tab; key Tab", "focus focus "},
     {"each paste is one change", "focus missed; paste 312; key Ctrl+V", "focus text=312 text=312312 "},
+    {"a list without rows takes keys", "focus ListBox1; key Down; key End; focus missed", "focus "},
+    {"Tab with Ctrl is the field's", "focus missed; key Ctrl+Tab; key Ctrl+Shift+Tab", "focus Ctrl+Tab Ctrl+Shift+Tab "},
     {"a cut and its undoing are changes", "write missed=3; focus missed; EditCut; key Ctrl+Z", "focus text= text=3 "},
     {"the same text is no change", "write missed=312; focus missed; paste 312; write missed=5", "focus "},
     {"a button leaves the focus where it is", "focus missed; PushButton3; checkcorrect; missed", "focus "},

@@ -4,6 +4,7 @@
 #include "platform/file_dialogs.h"
 #include "platform/printing.h"
 #include "platform/qt/system/native.h"
+#include "platform/qt/widgets/top_level.h"
 #include "platform/runtime.h"
 #include "presenter/presenter.h"
 #include "tests/harness.h"
@@ -262,7 +263,7 @@ private slots:
         QTRY_COMPARE(QApplication::activeWindow(), session.window("Window1"));
         session.expectFields("EditField1=1 ListBox1=0,100;-1,0", "Window1");
         session.window("Window1")->close();
-        QVERIFY(session.window("Window1") == nullptr);
+        QVERIFY(session.window("Window1") == nullptr && TopLevel::front() == nullptr);
         session.activate();
         session.play("filepresent");
         session.expectFields("EditField1= ListBox1=", "Window1");
@@ -310,13 +311,11 @@ private slots:
 
     void theProgramSurvivesAnExceptionInAHandler()
     {
-        constexpr char const* kNotice =
-            "Gradeloom could not finish this step: %1. The data you have entered so far "
-            "has been kept.";
         TestSession session;
         RunProgram([&] {
             for (QString const& reason : {u"paper jam"_s, u"an unknown error"_s}) {
-                session.expectBox(QString(kNotice).arg(reason).toStdString());
+                session.expectBox("Gradeloom could not finish this step: " + reason.toStdString() +
+                                  ". The data you have entered so far has been kept.");
                 session.form().correct().TextChange = [&reason](TextField&) {
                     reason == "paper jam"_L1 ? throw std::runtime_error("paper jam") : throw 1;
                 };

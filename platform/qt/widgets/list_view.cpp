@@ -173,7 +173,7 @@ void ListView::keyPressEvent(QKeyEvent* event)
         return;
     }
     bool const isFirstDown = event->key() == Qt::Key_Down && !selectionModel()->hasSelection();
-    if (isFirstDown && rows_->rowCount() > 0) {
+    if (isFirstDown) {
         QModelIndex const first = moveCursor(MoveHome, Qt::NoModifier);
         selectionModel()->setCurrentIndex(first, selectionCommand(first));
     } else {
