@@ -13,18 +13,14 @@ FolderItem Documents()
 
 std::optional<FolderItem> ChooseFileToOpen(std::string_view title)
 {
-    OpenDialog dialog;
-    dialog.InitialDirectory = Documents();
-    dialog.Title = title;
-    return dialog.ShowModal();
+    return OpenDialog{.InitialDirectory = Documents(), .Title = std::string(title)}.ShowModal();
 }
 
 std::optional<FolderItem> ChooseFileToSave(std::string_view suggestedName)
 {
-    SaveAsDialog dialog;
-    dialog.InitialDirectory = Documents();
-    dialog.PromptText = "Enter a filename";
-    dialog.SuggestedFileName = suggestedName;
-    dialog.Title = "Save your file";
+    SaveAsDialog const dialog{.InitialDirectory = Documents(),
+                              .PromptText = "Enter a filename",
+                              .SuggestedFileName = std::string(suggestedName),
+                              .Title = "Save your file"};
     return dialog.ShowModal();
 }

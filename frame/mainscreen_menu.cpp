@@ -1,27 +1,32 @@
 #include "frame/mainscreen.h"
 
+#include <initializer_list>
+#include <utility>
+
 void mainscreen::AddMenuHandlers()
 {
-    _AddMenuHandler(*this, "About", [this] { return _About_Action(); });
-    _AddMenuHandler(*this, "FileClose", [this] { return _FileClose_Action(); });
-    _AddMenuHandler(*this, "FileReset", [this] { return _FileReset_Action(); });
-    _AddMenuHandler(*this, "EditUndo", [this] { return _EditUndo_Action(); });
-    _AddMenuHandler(*this, "FilePrint", [this] { return _FilePrint_Action(); });
-    _AddMenuHandler(*this, "FileExport", [this] { return _FileExport_Action(); });
-    _AddMenuHandler(*this, "FileOpen", [this] { return _FileOpen_Action(); });
-    _AddMenuHandler(*this, "filepresent", [this] { return _filepresent_Action(); });
+    using Handler = bool (mainscreen::*)();
+    for (auto const& [item, handler] : std::initializer_list<std::pair<char const*, Handler>>{
+             {"About",       &mainscreen::_About_Action      },
+             {"FileClose",   &mainscreen::_FileClose_Action  },
+             {"FileReset",   &mainscreen::_FileReset_Action  },
+             {"EditUndo",    &mainscreen::_EditUndo_Action   },
+             {"FilePrint",   &mainscreen::_FilePrint_Action  },
+             {"FileExport",  &mainscreen::_FileExport_Action },
+             {"FileOpen",    &mainscreen::_FileOpen_Action   },
+             {"filepresent", &mainscreen::_filepresent_Action}
+    }) {
+        _AddMenuHandler(*this, item, [this, action = handler] { return (this->*action)(); });
+    }
     _SetEnableMenuItems(*this, [this] { Event_EnableMenuItems(); });
 }
 
 void mainscreen::Event_EnableMenuItems()
 {
-    About().Enabled(true);
-    FileReset().Enabled(true);
-    EditUndo().Enabled(true);
-    FilePrint().Enabled(true);
-    FileExport().Enabled(true);
-    FileOpen().Enabled(true);
-    filepresent().Enabled(true);
+    for (MenuItem* const item :
+         {&About(), &FileReset(), &EditUndo(), &FilePrint(), &FileExport(), &FileOpen(), &filepresent()}) {
+        item->Enabled(true);
+    }
 }
 
 bool mainscreen::_FileClose_Action()

@@ -30,6 +30,6 @@ void Menu::Add(std::string_view under, std::string_view name, std::string_view t
 #define MENU(function)                                                                                       \
     void Menu::function()                                                                                    \
     {
-#define END_MENU(function) }
+#define END_MENU() }
 #define ITEM(under, name, type, text, shortcut) Add<type>(under, #name, text, shortcut);
 #include "frame/menu.def"

@@ -8,9 +8,8 @@
 struct FileDialogRequest;
 
 /// Asks the user for a file to open.
-class OpenDialog {
-public:
-    FolderItem InitialDirectory{""};
+struct OpenDialog {
+    FolderItem InitialDirectory;
     std::string Title;
 
     /// Returns the chosen file, or nothing if the user cancels.
@@ -18,9 +17,8 @@ public:
 };
 
 /// Asks the user for the name of a file to save, and before one is overwritten.
-class SaveAsDialog {
-public:
-    FolderItem InitialDirectory{""};
+struct SaveAsDialog {
+    FolderItem InitialDirectory;
     std::string PromptText; ///< the label of the file name
     std::string SuggestedFileName;
     std::string Title;

@@ -142,6 +142,31 @@ private slots:
         QVERIFY(!items.last()->isVisible()); // without a caption it stays hidden
     }
 
+    void eachWindowTurnsItsOwnItemsOn()
+    {
+        TestSession const session;
+        ::Window1();
+        ::Author();
+        session.activate("Author");
+        QList<QAction*> const items = session.menuItems();
+        MenuBar const& bar = session.form().MenuBar();
+        QString found;
+        for (char const* const window : {"mainscreen", "Window1", "Author"}) {
+            for (QAction const* const item : items) {
+                bar.Item(item->objectName().toStdString()).AutoEnabled = false;
+                bar.Item(item->objectName().toStdString()).Enabled(false);
+            }
+            session.activate(window);
+            for (QAction const* const item : items) {
+                found += item->isEnabled() ? item->objectName() + u' ' : QString();
+                bar.Item(item->objectName().toStdString()).AutoEnabled = true;
+            }
+        }
+        QCOMPARE(
+            found,
+            "FileOpen filepresent FileExport FileReset FilePrint EditUndo About FileClose FileClose "_L1);
+    }
+
     void aListIgnoresWhatIsOutsideOfIt()
     {
         TestSession const session;

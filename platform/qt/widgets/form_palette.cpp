@@ -11,8 +11,6 @@ QPalette FormPalette(QColor const& background)
         palette.setColor(QPalette::Disabled, role, grey);
     }
     palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::AlternateBase, Qt::white);
-    palette.setColor(QPalette::PlaceholderText, grey);
     palette.setColor(QPalette::Highlight, QColor(20, 90, 160));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::ToolTipBase, QApplication::palette().color(QPalette::ToolTipBase));
