@@ -51,11 +51,7 @@ QAction* MenuAction::of(QWidget const& window, QKeyEvent const& event)
 
 bool MenuAction::event(QEvent* event)
 {
-    if (event->type() == QEvent::Shortcut) {
-        bool const isIgnored = IsLastPressRepeat() || std::exchange(ignoredOnce, nullptr) == this;
-        if (isIgnored) {
-            return true;
-        }
-    }
-    return QAction::event(event);
+    bool const isIgnored = event->type() == QEvent::Shortcut &&
+                           (IsLastPressRepeat() || std::exchange(ignoredOnce, nullptr) == this);
+    return isIgnored || QAction::event(event);
 }
