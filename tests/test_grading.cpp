@@ -99,6 +99,19 @@ private slots:
     void entriesAreListedAndUndone_data() { AddRows(kSessions); }
     void entriesAreListedAndUndone() { CheckScenario(); }
 
+    void undoReadsTheListsWithExponents()
+    {
+        TestSession const session;
+        session.enterScores("30", {"3", "4"});
+        class mainscreen& form = session.form();
+        form.ListBox1().Cell(0, 1, "9e1");
+        for (Listbox* const list : {&form.ListBox2(), &form.ListBox3(), &form.ListBox5()}) {
+            list->Cell(0, 0, "1e1");
+        }
+        session.play("EditUndo");
+        session.expectFields("percentage=90 lastmissed=10 EditField1=10 average=10");
+    }
+
     void everyLetterHoldsFromItsMinimumToItsMaximum()
     {
         TestSession const session;
@@ -143,6 +156,7 @@ private slots:
         QVERIFY((cell(2).data(Qt::TextAlignmentRole).toInt() & Qt::AlignLeft) != 0);
         QScrollBar const* const bar = list->verticalScrollBar();
         QVERIFY(bar->maximum() > 0 && bar->value() == bar->maximum());
+        QVERIFY(bar->singleStep() == 16 && bar->pageStep() == list->viewport()->height());
         session.play("EditUndo");
         QCOMPARE(bar->value(), bar->maximum());
         session.play("FileReset");

@@ -114,6 +114,10 @@ private slots:
         QString shown;
         for (QAction const* const item : session.menuItems()) {
             QVERIFY2(!item->autoRepeat(), qPrintable(item->text())); // a key held down acts once
+            QString const name = item->objectName();
+            QCOMPARE(item->menuRole(), name == "FileQuit"_L1 ? QAction::QuitRole
+                                       : name == "About"_L1  ? QAction::AboutRole
+                                                             : QAction::NoRole);
             if (item->isVisible()) {
                 shown += (item->isSeparator() ? u"-"_s : item->text()) + u' ' +
                          item->shortcut().toString(QKeySequence::PortableText) + u';';
@@ -283,9 +287,11 @@ private slots:
         TestSession const session;
         session.play("filepresent");
         session.type("EditField1", "1\n", "Window1");
+        session.window("Window1")->showMinimized();
         session.activate();
         session.play("key Ctrl+T");
         QTRY_COMPARE(QApplication::activeWindow(), session.window("Window1"));
+        QVERIFY(!session.window("Window1")->isMinimized());
         session.expectFields("EditField1=1 ListBox1=0,100;-1,0", "Window1");
         session.window("Window1")->close();
         QVERIFY(session.window("Window1") == nullptr && TopLevel::front() == nullptr);
@@ -327,6 +333,9 @@ private slots:
         QPrinter printer;
         QVERIFY(ShowMessageBox({"Really?", "", true}) == kNo && !ShowFileDialog({true, "", "", "", ""}) &&
                 !ShowPrintDialog(printer, fault)); // what comes now is not shown
+        QCOMPARE(QCoreApplication::applicationName() + QGuiApplication::desktopFileName(),
+                 "gradeloomgradeloom"_L1);
+        QVERIFY(!QGuiApplication::quitOnLastWindowClosed());
         Application const& app = *_RuntimeAppObject();
         QCOMPARE(app.LongVersion + app.ShortVersion + app.PackageInfo,
                  std::string("Gradeloom 1.2.2Gradeloom XGradeloom 1.2.2 Orrin Vale"));

@@ -100,7 +100,6 @@ private:
             font.setPixelSize(kFontHeight);
             painter_.scale(resolution / kUnitsPerInch, resolution / kUnitsPerInch);
             painter_.setFont(font);
-            painter_.setPen(Qt::black);
         }
     }
 

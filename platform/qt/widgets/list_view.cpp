@@ -26,7 +26,6 @@ ListView::ListView(QWidget* parent, ListModel* rows) : QTableView(parent), rows_
     horizontalHeader()->hide();
     findChild<QAbstractButton*>()->hide(); // the corner between them
     setTabKeyNavigation(false);
-    setEditTriggers(NoEditTriggers);
     setSelectionBehavior(SelectRows);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerPixel);
