@@ -99,7 +99,7 @@ private slots:
     void entriesAreListedAndUndone_data() { AddRows(kSessions); }
     void entriesAreListedAndUndone() { CheckScenario(); }
 
-    void undoReadsTheListsWithExponents()
+    void undoAndLettersReadExponents()
     {
         TestSession const session;
         session.enterScores("30", {"3", "4"});
@@ -108,8 +108,12 @@ private slots:
         for (Listbox* const list : {&form.ListBox2(), &form.ListBox3(), &form.ListBox5()}) {
             list->Cell(0, 0, "1e1");
         }
+        session.setFields("numstudents=2e0 bgrade=1e1");
         session.play("EditUndo");
-        session.expectFields("percentage=90 lastmissed=10 EditField1=10 average=10");
+        session.expectFields("percentage=90 lastmissed=10 EditField1=10 average=10 numstudents=1 bgrade=9");
+        session.setFields("percentage=8e1");
+        form.percenttest();
+        session.expectFields("lettergrade=B-");
     }
 
     void everyLetterHoldsFromItsMinimumToItsMaximum()
