@@ -45,13 +45,6 @@ State::State(TestSession const& session)
     }
 }
 
-void Require(bool holds, QString const& sentence)
-{
-    if (!holds) {
-        QTest::qFail(qPrintable(u"not so: "_s + sentence), __FILE__, __LINE__);
-    }
-}
-
 /// Whether a file that was just written holds the scale, the percentages or a report, to the last byte.
 bool IsWhole(QByteArray const& content, State const& state)
 {
@@ -72,35 +65,35 @@ void CheckState(State const& now)
     qsizetype const entries = now.entries();
     QStringList last;
     for (QStringList const& list : now.lists) {
-        Require(list.size() == entries, u"the five lists are in step"_s);
+        QVERIFY2(list.size() == entries, "the five lists are in step");
         last += list.value(entries - 1);
     }
     auto const field = [&](char const* name) { return now.fields[QLatin1String(name)]; };
-    Require(entries == 0 || last[0].startsWith(QString::number(entries) + u','), u"rows are counted up"_s);
-    Require(Number(field("numstudents")) == static_cast<double>(entries), u"the students are the rows"_s);
-    Require(Number(field("average")) == Number(last[4]), u"the sum is the last one"_s);
-    Require(Number(field("EditField1")) == Number(last[2]), u"the average is the last one"_s);
-    Require(field("lettergrade") == last[3], u"the letter is the last one"_s);
+    QVERIFY2(entries == 0 || last[0].startsWith(QString::number(entries) + u','), "rows are counted up");
+    QVERIFY2(Number(field("numstudents")) == static_cast<double>(entries), "the students are the rows");
+    QVERIFY2(Number(field("average")) == Number(last[4]), "the sum is the last one");
+    QVERIFY2(Number(field("EditField1")) == Number(last[2]), "the average is the last one");
+    QVERIFY2(field("lettergrade") == last[3], "the letter is the last one");
     for (QChar const family : u"ABCDF"_s) {
         qsizetype const count = now.lists[3].filter(QRegularExpression(u'^' + QString(family))).size();
-        Require(Number(now.fields[family.toLower() + u"grade"_s]) == static_cast<double>(count),
-                u"the tally of %1 counts its letters"_s.arg(family));
+        QVERIFY2(Number(now.fields[family.toLower() + u"grade"_s]) == static_cast<double>(count),
+                 qPrintable(u"the tally of %1 counts its letters"_s.arg(family)));
     }
-    Require(entries == 0 || field("total") == field("pointstemp"), u"entries keep the points"_s);
-    Require(entries < 2 || field("problem").isEmpty(), u"one Undo does not clear two entries"_s);
+    QVERIFY2(entries == 0 || field("total") == field("pointstemp"), "entries keep the points");
+    QVERIFY2(entries < 2 || field("problem").isEmpty(), "one Undo does not clear two entries");
 }
 
 void CheckStep(State const& before, State const& now)
 {
     qsizetype const kept = std::min(before.entries(), now.entries());
-    Require(now.entries() == 0 || std::abs(now.entries() - before.entries()) <= 1,
-            u"one entry comes or goes, or all go"_s);
+    QVERIFY2(now.entries() == 0 || std::abs(now.entries() - before.entries()) <= 1,
+             "one entry comes or goes, or all go");
     for (qsizetype list = 0; kept > 0 && list < now.lists.size(); ++list) {
-        Require(before.lists[list].first(kept) == now.lists[list].first(kept), u"earlier rows stay"_s);
+        QVERIFY2(before.lists[list].mid(0, kept) == now.lists[list].mid(0, kept), "earlier rows stay");
     }
     for (QString const& path : before.files.keys() + now.files.keys()) {
         bool const isSame = now.files.contains(path) && now.files[path] == before.files.value(path);
-        Require(isSame || IsWhole(now.files.value(path), now), u"%1 is whole"_s.arg(path));
+        QVERIFY2(isSame || IsWhole(now.files.value(path), now), qPrintable(u"%1 is whole"_s.arg(path)));
     }
 }
 
@@ -108,11 +101,11 @@ void CheckStep(State const& before, State const& now)
 void CheckGrading(State const& before, State const& now)
 {
     bool const isEntered = now.entries() > before.entries();
-    Require(now.entries() >= before.entries(), u"Grade removes nothing"_s);
+    QVERIFY2(now.entries() >= before.entries(), "Grade removes nothing");
     QStringList const mayChange = kScale + u"missed pointstemp problem foundaproblem"_s.split(u' ');
     for (QString const& name : before.fields.keys()) {
-        Require(isEntered || mayChange.contains(name) || before.fields[name] == now.fields[name],
-                u"a refused press leaves %1 alone"_s.arg(name));
+        QVERIFY2(isEntered || mayChange.contains(name) || before.fields[name] == now.fields[name],
+                 qPrintable(u"a refused press leaves %1 alone"_s.arg(name)));
     }
 }
 
