@@ -4,14 +4,11 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include <optional>
-
 namespace {
 
 /// Shows a box and does this with it and with its timer, which runs while it takes no key. Returns the
 /// answer, or nothing if the box is still open then.
-template <class Act>
-std::optional<int> AnswerTo(bool isQuestion, Act const& act)
+std::optional<int> AnswerTo(bool isQuestion, auto const& act)
 {
     bool isOpen = false;
     QTimer::singleShot(0, qApp, [&] {
