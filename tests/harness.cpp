@@ -259,7 +259,7 @@ void CheckScenario(QString const& before)
 
 QString PreferencesPath()
 {
-    return QString::fromStdString(GetFolderItem("Preferences", 0).value().Path());
+    return QString::fromStdString(GetFolderItem("Preferences", 0).value_or(FolderItem("")).Path());
 }
 
 QByteArray ContentOf(QString const& path)

@@ -134,7 +134,7 @@ private slots:
         QString const link = folder.filePath(u"link"_s);
         WriteFile(path, "old\n");
         QVERIFY(QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner) && QFile::link(path, link));
-        FolderItem const parent = GetFolderItem(folder.path().toStdString(), 0).value();
+        FolderItem const parent = GetFolderItem(folder.path().toStdString(), 0).value_or(FolderItem(""));
         QCOMPARE(parent.Child("link", true).Path(), path.toStdString());
         QCOMPARE(parent.Child("link", false).Path(), link.toStdString());
         QCOMPARE(Save(link, "new\n"), QString());

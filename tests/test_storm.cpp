@@ -133,18 +133,17 @@ class Storm final : public QObject {
     Q_OBJECT
 
 public:
-    int acts = 2000;
-    unsigned seed = 1;
+    Storm(int acts, unsigned seed) : acts_(acts), seed_(seed), random_(seed) {}
 
 private slots:
     void afterEachActAllHoldsThatMust()
     {
-        QString const replay = u"%1 %2 %3"_s.arg(QCoreApplication::applicationFilePath()).arg(acts).arg(seed);
+        QString const replay =
+            u"%1 %2 %3"_s.arg(QCoreApplication::applicationFilePath()).arg(acts_).arg(seed_);
         std::cout << qPrintable(replay) << '\n' << std::flush; // at once: a crash leaves no other trace
         QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
-        random_.seed(seed);
         start();
-        for (int act = 0; act < acts && !QTest::currentTestFailed(); ++act) {
+        for (int act = 0; act < acts_ && !QTest::currentTestFailed(); ++act) {
             actAndCheck();
         }
         session_.reset();
@@ -153,7 +152,7 @@ private slots:
                  qPrintable(u"after: %1\nagain: %2"_s.arg(course_.join(u"\n  "), replay)));
     }
 
-private:
+private: // NOLINT(readability-redundant-access-specifiers): what follows are no tests
     /// The generator's numbers are the same on every platform, those of the library's distributions are not.
     int below(int count) { return static_cast<int>(random_() % static_cast<unsigned>(count)); }
     QString any(char const* texts, char16_t separator = u' ')
@@ -245,6 +244,8 @@ private:
         }
     }
 
+    int acts_;
+    unsigned seed_;
     std::mt19937 random_;
     std::unique_ptr<TestSession> session_;
     QStringList course_; ///< the last acts
@@ -254,12 +255,14 @@ private:
 /// test_storm [ACTS [SEED]]: another number of acts draws a new seed, if none is stated.
 int main(int count, char** arguments)
 {
-    Storm test;
+    int acts = 2000;
+    unsigned seed = 1;
     if (count > 1) {
         qputenv("QTEST_FUNCTION_TIMEOUT", "2000000000"); // milliseconds: a long storm does not hang
-        test.acts = QString::fromLocal8Bit(arguments[1]).toInt();
-        test.seed = count > 2 ? QString::fromLocal8Bit(arguments[2]).toUInt() : std::random_device()();
+        acts = QString::fromLocal8Bit(arguments[1]).toInt();
+        seed = count > 2 ? QString::fromLocal8Bit(arguments[2]).toUInt() : std::random_device()();
     }
+    Storm test(acts, seed);
     return RunTests(test, 1, arguments);
 }
 
