@@ -20,30 +20,28 @@ double Number(QString const& text)
 
 /// What the program holds at one moment.
 struct State {
-    explicit State(TestSession const& session);
+    explicit State(TestSession const& session)
+    {
+        for (QString const& folder : {session.pathOf(""), QFileInfo(PreferencesPath()).path()}) {
+            for (QFileInfo const& file : QDir(folder).entryInfoList(QDir::Files | QDir::Hidden)) {
+                files[file.filePath()] = ContentOf(file.filePath());
+            }
+        }
+        for (QLineEdit const* const field : session.window()->findChildren<QLineEdit*>()) {
+            fields[field->objectName()] = field->text();
+        }
+        for (QString const& list : QString(kHistoryLists).split(u' ')) {
+            // An entry without a letter is a row without a text.
+            bool const isEmpty = session.widget(list)->findChild<QAbstractTableModel*>()->rowCount() == 0;
+            lists += isEmpty ? QStringList() : session.text(list).split(u';');
+        }
+    }
     [[nodiscard]] qsizetype entries() const { return lists.first().size(); }
 
     QMap<QString, QString> fields;
     QList<QStringList> lists; ///< the rows of the five lists of entries
     QMap<QString, QByteArray> files;
 };
-
-State::State(TestSession const& session)
-{
-    for (QString const& folder : {session.pathOf(""), QFileInfo(PreferencesPath()).path()}) {
-        for (QFileInfo const& file : QDir(folder).entryInfoList(QDir::Files | QDir::Hidden)) {
-            files[file.filePath()] = ContentOf(file.filePath());
-        }
-    }
-    for (QLineEdit const* const field : session.window()->findChildren<QLineEdit*>()) {
-        fields[field->objectName()] = field->text();
-    }
-    for (QString const& list : QString(kHistoryLists).split(u' ')) {
-        // An entry without a letter is a row without a text.
-        bool const isEmpty = session.widget(list)->findChild<QAbstractTableModel*>()->rowCount() == 0;
-        lists += isEmpty ? QStringList() : session.text(list).split(u';');
-    }
-}
 
 /// Whether a file that was just written holds the scale, the percentages or a report, to the last byte.
 bool IsWhole(QByteArray const& content, State const& state)
