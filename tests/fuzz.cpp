@@ -2,76 +2,48 @@
 #include "scale/bands.h"
 #include "tests/harness.h"
 
+#undef NDEBUG // libFuzzer keeps the input that an assertion stops at
+#include <cassert>
 #include <charconv>
 #include <cmath>
-#include <iostream>
 
 // Three programs of libFuzzer, each with one of the functions as FUZZ_TARGET: a text of any bytes must come through.
 namespace {
-
-/// Stops at an input for which this does not hold; libFuzzer keeps the input.
-void Require(bool holds, char const* sentence)
-{
-    if (!holds) {
-        std::cerr << "not so: " << sentence << '\n';
-        std::abort();
-    }
-}
 
 bool IsNear(Double one, Double other, Double share)
 {
     return std::fabs(one - other) <= share * std::max({1.0, std::fabs(one), std::fabs(other)});
 }
 
-/// The number that the standard library reads at the start of the text; nothing if it is out of range.
-std::optional<Double> ReadByLibrary(std::string_view text, std::chars_format format)
+/// Whether the number is the one that the standard library reads at the start of the text, or out of its range.
+bool IsAsRead(Double number, std::string_view text, std::chars_format format)
 {
     text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
-    bool const isNegative = text.starts_with('-');
-    text.remove_prefix(isNegative || text.starts_with('+') ? 1 : 0);
-    Double number = 0.0;
-    if (!text.starts_with('-') &&
-        std::from_chars(text.data(), text.data() + text.size(), number, format).ec ==
-            std::errc::result_out_of_range) {
-        return std::nullopt;
-    }
-    return isNegative ? -number : number;
+    text.remove_prefix(text.starts_with('+') && !text.starts_with("+-") ? 1 : 0);
+    Double read = 0.0;
+    std::errc const fault = std::from_chars(text.data(), text.data() + text.size(), read, format).ec;
+    return number == read || fault == std::errc::result_out_of_range;
 }
 
-void CheckWriting(Double number)
-{
-    std::string const text = Str(number);
-    if (std::isnan(number)) {
-        return;
-    }
-    Require(Str(CDbl(text)) == text, "a written number comes back as itself");
-    Require(std::fabs(static_cast<Double>(ToInteger(number))) <= std::fabs(number) + 1.0,
-            "an Integer is the number without its fraction");
-    if (std::fabs(number) < 1e7) {
-        Require(std::trunc(number) == number || IsNear(CDbl(text), number, 5.1e-7), "Str keeps seven digits");
-        Double const cut = CDbl(Format(number, "#.###"));
-        Double const slack = 1e-14 * std::fabs(number);
-        Require(std::fabs(cut) <= std::fabs(number) + slack && std::fabs(cut - number) < 0.001 + slack,
-                "Format cuts at three decimals");
-    }
-}
-
-/// Any bytes are read without harm, and a text of characters that numbers have as the library reads it.
+/// A text of characters that numbers have is read as the library reads it. What is read of any bytes comes back as it
+/// was written, in full or with seven digits or three decimals.
 [[maybe_unused]] void Conversions(std::string const& bytes)
 {
     std::string text = bytes;
     std::ranges::transform(text, text.begin(),
                            [](char one) { return "0123456789.+-eE \tx"[(one & 0xff) % 18]; });
-    if (auto const number = ReadByLibrary(text, std::chars_format::fixed)) {
-        Require(Val(text) == *number, "Val reads what the library reads");
-    }
-    if (auto const number = ReadByLibrary(text, std::chars_format::general)) {
-        Require(CDbl(text) == *number, "CDbl reads what the library reads");
-    }
-    Double number = 0.0;
-    bytes.copy(reinterpret_cast<char*>(&number), sizeof number);
-    for (Double const each : {number, CDbl(text), CDbl(bytes), Val(bytes)}) {
-        CheckWriting(each);
+    assert(IsAsRead(Val(text), text, std::chars_format::fixed) && "Val reads what the library reads");
+    assert(IsAsRead(CDbl(text), text, std::chars_format::general) && "CDbl reads what the library reads");
+    Double any = 0.0;
+    bytes.copy(reinterpret_cast<char*>(&any), sizeof any);
+    for (Double const number : {std::isnan(any) ? 0.0 : any, CDbl(text), CDbl(bytes), Val(bytes)}) {
+        Double const written = CDbl(Str(number));
+        assert(Str(written) == Str(number) && "a written number comes back as itself");
+        bool const isLarge = std::fabs(number) >= 1e7;
+        assert((isLarge || IsNear(written, number, 5.1e-7)) && "Str keeps seven digits");
+        Double const lost = std::copysign(1.0, number) * (number - CDbl(Format(number, "#.###")));
+        Double const slack = 1e-14 * std::fabs(number);
+        assert((isLarge || (lost >= -slack && lost < 0.001 + slack)) && "Format cuts at three decimals");
     }
 }
 
@@ -99,15 +71,12 @@ TestSession& Session()
     session.form().PushButton2_Action(); // the first press only acknowledges a repair
     QString const saved = session.texts(kScaleFieldNames);
     QByteArray const content = ContentOf(session.fileToChoose);
-    QByteArray lines;
-    for (QString const& name : QString(kScaleFieldNames).split(u' ')) {
-        lines += session.text(name).toUtf8() + '\n';
-    }
-    bool const isSaved = content == lines;
-    Require(isSaved || content == QByteArray::fromStdString(text), "the file is the old one or the new one");
+    bool const isSaved = QByteArray(content).replace('\n', '|') == saved.toUtf8() + '|';
+    assert((isSaved || content == QByteArray::fromStdString(text)) &&
+           "the file is the old one or the new one");
     session.form().PushButton3_Action(); // another scale, so that a file that is not read shows
     session.form()._FileOpen_Action();
-    Require(!isSaved || session.texts(kScaleFieldNames) == saved, "a saved scale comes back");
+    assert((!isSaved || session.texts(kScaleFieldNames) == saved) && "a saved scale comes back");
 }
 
 /// Repairs a scale of any texts, one from each line, twice. It is sound then, and the second repair finds nothing in
@@ -127,12 +96,12 @@ TestSession& Session()
     ScaleNumbers const twice = ReadScale(form);
     bool const isWhole = std::ranges::all_of(
         once, [](Double number) { return std::trunc(number) == number && std::fabs(number) < 1e15; });
-    Require(!isWhole || Session().texts(kScaleFieldNames) == texts, "whole numbers are repaired once");
+    assert((!isWhole || Session().texts(kScaleFieldNames) == texts) && "whole numbers are repaired once");
     for (std::size_t place = 1; place < once.size(); ++place) {
         Double const wanted = twice[place - 1] - (IsMaximum(place) ? 1.0 : 0.0);
-        Require((!IsMaximum(place) && twice[place] < wanted) || IsNear(twice[place], wanted, 1e-6),
-                "the repaired scale is sound");
-        Require(IsNear(once[place], twice[place], 1e-6), "a repair is done once");
+        assert(((!IsMaximum(place) && twice[place] < wanted) || IsNear(twice[place], wanted, 1e-6)) &&
+               "the repaired scale is sound");
+        assert(IsNear(once[place], twice[place], 1e-6) && "a repair is done once");
     }
 }
 

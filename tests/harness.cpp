@@ -19,34 +19,11 @@
 
 namespace {
 
-// These two alone know the inside of the layer over the desktop.
-void WriteByProgram(QWidget* field, QString const& text)
-{
-    static_cast<LineEdit*>(field)->writeByProgram(text);
-}
+Doors realDoors; // those of the desktop
 
-void CloseAllWindows()
-{
-    Runtime::instance().windows.clear();
-}
-
-Doors const& RealDoors()
-{
-    static Doors const doors = PlatformDoors();
-    return doors;
-}
-
-/// The names and texts in "percentage=29 lettergrade=F".
-std::vector<std::pair<QString, QString>> NamesAndTexts(QString const& fields)
-{
-    static QRegularExpression const pattern(u"(\\w+)=(.*?)(?= \\w+=|$)"_s,
-                                            QRegularExpression::DotMatchesEverythingOption);
-    std::vector<std::pair<QString, QString>> found;
-    for (auto const& match : pattern.globalMatch(fields)) {
-        found.emplace_back(match.captured(1), match.captured(2));
-    }
-    return found;
-}
+/// Each name and text in "percentage=29 lettergrade=F".
+QRegularExpression const kNameAndText(u"(\\w+)=(.*?)(?= \\w+=|$)"_s,
+                                      QRegularExpression::DotMatchesEverythingOption);
 
 QString RowsOf(QAbstractTableModel const& model)
 {
@@ -89,7 +66,6 @@ void StartAgain()
 TestSession::TestSession(std::vector<Box> boxes) : expectedBoxes_(std::move(boxes))
 {
     StartAgain();
-    RealDoors();
     PlatformDoors().messageBox = [this](MessageBoxRequest const& request) {
         lastBox = request.text;
         if (isBoxUp_ || expectedBoxes_.empty() || !IsExpected(request, expectedBoxes_.front())) {
@@ -125,7 +101,7 @@ TestSession::TestSession(std::vector<Box> boxes) : expectedBoxes_(std::move(boxe
 
 TestSession::~TestSession()
 {
-    CloseAllWindows();
+    Runtime::instance().windows.clear();
     PlatformDoors().messageBox = nullptr; // a box that comes now ends the test
     for (Box const& box : expectedBoxes_) {
         QTest::qFail(("box did not come: " + box.text).c_str(), __FILE__, __LINE__);
@@ -134,10 +110,9 @@ TestSession::~TestSession()
 
 void TestSession::useRealDoors()
 {
-    Doors const& real = RealDoors();
-    PlatformDoors().messageBox = real.messageBox;
-    PlatformDoors().fileDialog = real.fileDialog;
-    PlatformDoors().printDialog = real.printDialog;
+    PlatformDoors().messageBox = realDoors.messageBox;
+    PlatformDoors().fileDialog = realDoors.fileDialog;
+    PlatformDoors().printDialog = realDoors.printDialog;
 }
 
 QMainWindow* TestSession::window(char const* name) const
@@ -168,10 +143,9 @@ QString TestSession::texts(QString const& names, char const* in) const
 
 void TestSession::expectFields(QString const& expected, char const* in, char const* file, int line) const
 {
-    for (auto const& [name, wanted] : NamesAndTexts(expected)) {
-        if (QString const found = text(name, in); found != wanted) {
-            QString const report = u"%1 is \"%2\", expected \"%3\""_s;
-            QTest::qFail(qPrintable(report.arg(name, found, wanted)), file, line);
+    for (auto const& match : kNameAndText.globalMatch(expected)) {
+        if (QString const found = text(match.captured(1), in); found != match.captured(2)) {
+            QTest::qFail(qPrintable(u"found \"%1\", expected %2"_s.arg(found, match.captured())), file, line);
         }
     }
 }
@@ -225,8 +199,8 @@ void TestSession::type(QString const& name, QString const& text, char const* in)
 
 void TestSession::setFields(QString const& fields) const
 {
-    for (auto const& [name, text] : NamesAndTexts(fields)) {
-        WriteByProgram(widget(name), text);
+    for (auto const& match : kNameAndText.globalMatch(fields)) {
+        static_cast<LineEdit*>(widget(match.captured(1)))->writeByProgram(match.captured(2));
     }
 }
 
@@ -285,8 +259,7 @@ void CheckScenario(QString const& before)
 
 QString PreferencesPath()
 {
-    auto const file = GetFolderItem("Preferences", 0);
-    return file ? QString::fromStdString(file->Path()) : QString();
+    return QString::fromStdString(GetFolderItem("Preferences", 0).value_or(FolderItem("")).Path());
 }
 
 QByteArray ContentOf(QString const& path)
@@ -317,6 +290,7 @@ void StartTests()
     QStandardPaths::setTestModeEnabled(true);
     RuntimeInit(0, nullptr);
     RuntimePerformInitializers();
+    realDoors = PlatformDoors();
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // a system's own can't be driven from here
     if (kIsWindows) {                                        // where the settings don't move with HOME
         QDir(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation)).removeRecursively();

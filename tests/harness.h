@@ -27,7 +27,6 @@ inline constexpr char const* kPointsAreFixed =
 inline constexpr char const* kDeletesData =
     "You are about to change the grading scale in the middle of entering grades. This will cause Gradeloom to "
     "delete the data you have entered so far. Are you sure you want to do this?";
-inline constexpr char const* kTallyFields = "agrade bgrade cgrade dgrade fgrade";
 inline constexpr char const* kHistoryLists = "ListBox1 ListBox2 ListBox3 ListBox4 ListBox5";
 
 /// The 24 scale fields in their order, and their default texts.

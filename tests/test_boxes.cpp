@@ -4,14 +4,11 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include <optional>
-
 namespace {
 
 /// Shows a box and does this with it and with its timer, which runs while it takes no key. Returns the
 /// answer, or nothing if the box is still open then.
-template <class Act>
-std::optional<int> AnswerTo(bool isQuestion, Act const& act)
+std::optional<int> AnswerTo(bool isQuestion, auto const& act)
 {
     bool isOpen = false;
     QTimer::singleShot(0, qApp, [&] {
@@ -106,10 +103,9 @@ private slots:
         QWidget field;
         PressAt(10'000, &field, false); // the program was busy when the next key came
         for (quint64 const time : {10'499U, 20'000U, 20'500U}) {
-            bool const isHeld = time == 20'000;
             auto const answer = AnswerTo(true, [&](QMessageBox const& box, QTimer& quiet) {
                 quiet.stop();
-                PressAt(time, box.defaultButton(), isHeld);
+                PressAt(time, box.defaultButton(), time == 20'000); // the second one is held
             });
             QVERIFY(answer == (time < 20'500 ? std::nullopt : std::optional(kNo)));
         }
