@@ -72,7 +72,8 @@ bool IsLegible(QWidget& control)
     control.setProperty(property, own);
     QPalette const& colors = control.palette(); // of rows and selected texts
     return isLegible && Contrast(colors.color(QPalette::Text), colors.color(QPalette::Base)) >= 4.5 &&
-           Contrast(colors.color(QPalette::HighlightedText), colors.color(QPalette::Highlight)) >= 4.5;
+           Contrast(colors.color(QPalette::HighlightedText), colors.color(QPalette::Highlight)) >= 4.5 &&
+           Contrast(colors.color(QPalette::ToolTipText), colors.color(QPalette::ToolTipBase)) >= 4.5;
 }
 
 /// Whether the focus can be seen, as two sides of a rectangle: a cursor or a selected digit is not enough.
@@ -93,6 +94,8 @@ void UseStyle(QString const& style, Theme const& theme)
     for (QPalette::ColorRole const role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(role, theme.text);
     }
+    palette.setColor(QPalette::ToolTipBase, theme.base);
+    palette.setColor(QPalette::ToolTipText, theme.text);
     QApplication::setStyle(style);
     QApplication::setPalette(palette);
 }

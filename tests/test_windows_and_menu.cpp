@@ -336,6 +336,7 @@ private slots:
         QCOMPARE(QCoreApplication::applicationName() + QGuiApplication::desktopFileName(),
                  "gradeloomgradeloom"_L1);
         QVERIFY(!QGuiApplication::quitOnLastWindowClosed());
+        QCOMPARE(QGuiApplication::windowIcon().availableSizes(), QList{QSize(16, 16)});
         Application const& app = *_RuntimeAppObject();
         QCOMPARE(app.LongVersion + app.ShortVersion + app.PackageInfo,
                  std::string("Gradeloom 1.2.2Gradeloom XGradeloom 1.2.2 Orrin Vale"));
