@@ -114,6 +114,16 @@ visit_class() {
     picture mainscreen "$main"
 }
 
+# After forty papers the list shows the last of them.
+visit_first_papers() {
+    step "the first papers in the list"
+    go_to ListBox1
+    picture list-end "$main"
+    key Home
+    picture list-start "$main" "$shot"
+    at=-1
+}
+
 # A few papers and a refused one, for the pictures alone.
 visit_few_papers() {
     step "a few papers"
