@@ -84,6 +84,28 @@ Scenario const kSessions[] = {
      "foundaproblem=1 amin=80"},
 };
 
+struct Order {
+    char const* name;
+    char const* before;
+    char const* acts;
+    char const* writes; // the controls whose content changes, in their order
+} const kOrders[] = {
+    {"a number missed", "total=30; write missed=3", "PushButton1", "pointstemp problem lastmissed correct percentage "
+     "lettergrade agrade numstudents average EditField1 missed ListBox1 ListBox2 ListBox3 ListBox4 ListBox5"},
+    {"a number correct", "total=30; checkcorrect; write correct=30", "PushButton1", "pointstemp problem missed lastmissed "
+     "percentage correct lettergrade agrade numstudents average EditField1 ListBox1 ListBox2 ListBox3 ListBox4 ListBox5"},
+    {"Undo", "total=30; missed=3 Return; missed=15 Return", "EditUndo", "fgrade numstudents average percentage "
+     "EditField1 lastmissed lettergrade ListBox1 ListBox2 ListBox3 ListBox4 ListBox5 problem"},
+    {"the last Undo", "total=30; missed=3 Return", "EditUndo", "correct lastmissed percentage lettergrade average "
+     "numstudents agrade EditField1 ListBox1 ListBox2 ListBox3 ListBox4 ListBox5"},
+    {"Reset", "total=30; missed=3 Return; write bgrade=1 cgrade=1 dgrade=1 fgrade=1", "FileReset", "total correct "
+     "lastmissed percentage lettergrade average numstudents agrade bgrade cgrade dgrade fgrade EditField1 ListBox1 ListBox2 "
+     "ListBox3 ListBox4 ListBox5"},
+    {"the button Reset", "total=30; missed=3 Return; write bgrade=1 cgrade=1 dgrade=1 fgrade=1", "BevelButton1",
+     "numstudents pointstemp total correct lastmissed percentage lettergrade average agrade bgrade cgrade dgrade fgrade "
+     "EditField1 ListBox1 ListBox2 ListBox3 ListBox4 ListBox5"},
+};
+
 // clang-format on
 
 } // namespace
@@ -98,6 +120,28 @@ private slots:
 
     void entriesAreListedAndUndone_data() { AddRows(kSessions); }
     void entriesAreListedAndUndone() { CheckScenario(); }
+
+    void whatAnActWritesHasItsOrder_data() { AddRows(kOrders); }
+    void whatAnActWritesHasItsOrder()
+    {
+        QFETCH(Order const*, row);
+        TestSession const session;
+        session.play(row->before);
+        QString writes;
+        for (QLineEdit* const field : session.window()->findChildren<QLineEdit*>()) {
+            connect(field, &QLineEdit::textChanged, this,
+                    [&writes, field] { writes += field->objectName() + u' '; });
+        }
+        for (QString const& name : QString(kHistoryLists).split(u' ')) {
+            auto const* const rows = session.widget(name)->findChild<QAbstractItemModel*>();
+            auto const note = [&writes, name] { writes += name + u' '; };
+            connect(rows, &QAbstractItemModel::rowsInserted, this, note);
+            connect(rows, &QAbstractItemModel::rowsRemoved, this, note);
+            connect(rows, &QAbstractItemModel::modelReset, this, note);
+        }
+        session.play(row->acts);
+        QCOMPARE(writes.trimmed(), QLatin1String(row->writes));
+    }
 
     void undoAndLettersReadExponents()
     {

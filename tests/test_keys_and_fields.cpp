@@ -167,6 +167,14 @@ private slots:
     void whatIsTypedOrPastedIsInTheField_data() { AddRows(kActs); }
     void whatIsTypedOrPastedIsInTheField() { CheckScenario(); }
 
+    void aFieldHoldsALongPaste()
+    {
+        TestSession const session;
+        QString const nines(40'000, u'9');
+        session.play("focus total; paste " + nines);
+        session.expectFields("total=" + nines);
+    }
+
     void theUndoKeyUndoesWhatIsMeant_data() { AddRows(kUndone); }
     void theUndoKeyUndoesWhatIsMeant() { CheckScenario(kTwoEntries); }
 

@@ -272,6 +272,7 @@ private slots:
         TestSession const session;
         session.play("filepresent");
         session.type("EditField1", "1\n", "Window1");
+        QAction const* const file = session.menuItems()[1];
         session.window("Window1")->showMinimized();
         session.activate();
         session.play("key Ctrl+T");
@@ -280,6 +281,8 @@ private slots:
         session.expectFields("EditField1=1 ListBox1=0,100;-1,0", "Window1");
         session.window("Window1")->close();
         QVERIFY(session.window("Window1") == nullptr && TopLevel::front() == nullptr);
+        QMetaObject::invokeMethod(file->menu(), "aboutToShow"); // with no window in front
+        QVERIFY(!session.form().FileOpen().Enabled());
         session.activate();
         session.play("filepresent");
         session.expectFields("EditField1= ListBox1=", "Window1");
