@@ -191,6 +191,8 @@ private slots:
         QVERIFY(result->cursorPosition() == 0 && result->toolTip() == nines);
         session.play("focus percentage");
         QVERIFY(result->cursorPosition() == 0 && result->selectedText() == nines);
+        session.play("key Right");
+        QVERIFY(result->cursorPosition() == 0 && !result->hasSelectedText());
         session.play("focus total");
         QVERIFY(result->cursorPosition() == 0 && !result->hasSelectedText());
         int const needed = result->fontMetrics().horizontalAdvance(nines) + 8; // with its border

@@ -129,6 +129,25 @@ private slots:
                  list->palette().color(QPalette::Highlight));
     }
 
+    void boldCaptionsFitWithAnyFont()
+    {
+        QFont const usual = QApplication::font();
+        QFont wide = usual;
+        wide.setStretch(125);
+        QApplication::setFont(wide);
+        TestSession const session;
+        for (char const* const name : {"PushButton4", "PushButton1"}) {
+            QWidget const* const button = session.widget(name);
+            QString const caption = button->property("text").toString();
+            QVERIFY2(button->font().bold() &&
+                         button->fontMetrics().horizontalAdvance(caption) < button->width() - 8,
+                     name);
+        }
+        QVERIFY(session.widget("PushButton2")->font().stretch() !=
+                session.widget("PushButton4")->font().stretch());
+        QApplication::setFont(usual);
+    }
+
     void cleanupTestCase() { UseStyle(u"Fusion"_s, kThemes[0]); }
 
     void everyTextIsLegibleAndEveryStopShowsItsFocus_data()

@@ -230,6 +230,7 @@ private slots:
         session.expectBox("In order to change the current grading scale, you must first reset the data that "
                           "has already been entered.");
         QVERIFY(!form._FileOpen_Action() && session.dialogs.size() == 1);
+        session.fileToChoose = session.pathOf("results"); // which both replace
         QVERIFY(!form._FilePrint_Action() && !form._FileExport_Action() && !form._EditUndo_Action() &&
                 !form._FileReset_Action() && !form._filepresent_Action() && !form._About_Action() &&
                 !form._FileClose_Action() && !::Window1()._FileClose_Action() &&
