@@ -50,6 +50,7 @@ Scenario const kActs[] = {
     {"other fields have no limit", "amin=1234567890", {}, "amin=1234567890"},
     {"Cut and Paste move a text", "focus amin; EditCut; focus bmin; EditPaste", {}, "amin= bmin=93"},
     {"Copy copies and Clear deletes", "focus bmin; EditCopy; EditClear; focus total; EditPaste", {}, "bmin= total=83"},
+    {"Shift+Insert pastes", "focus bmin; EditCopy; focus total; key Shift+Ins", {}, "total=83"},
     {"Clear needs a selection", "focus bmin; key Home; EditClear", {}, "bmin=83"},
     {"a result takes no paste", "write percentage=90; focus total; paste 5; key Ctrl+A; key Ctrl+C; focus percentage; "
      "key Ctrl+V", {}, "percentage=90"},
