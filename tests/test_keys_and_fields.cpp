@@ -79,6 +79,7 @@ Scenario const kUndone[] = {
     {"an entry by the second key", "missed=45 Return; key Ctrl+Z; key Ctrl+Z", {{kTooManyMissed}}, "numstudents=1"},
     {"an entry after new typing", "missed=45 Return; keys 5; key Ctrl+Z; key Ctrl+Z", {{kTooManyMissed}}, "numstudents=1"},
     {"no entry without points", "write total=0; missed= Return; key Ctrl+Z", {{kNeedsPoints}}, "numstudents=2"},
+    {"no entry without a whole point", "write total=0.4; missed=0 Return; key Ctrl+Z", {{kNeedsPoints}}, "numstudents=2"},
     {"no entry after a text is restored", "focus bmax; key 5; key Ctrl+Z", {{kDeletesData, kNo}}, "numstudents=2"},
     {"no entry after the points are", "focus total; key 5; key Ctrl+Z", {{kPointsAreFixed}}, "numstudents=2"},
     {"an entry by the menu item", "missed=45 Return; EditUndo", {{kTooManyMissed}}, "numstudents=1"},
