@@ -6,7 +6,7 @@
 #include <functional>
 #include <span>
 
-// How the controls of a form look: the styles that the rows of its table name.
+// What the rows of a form's table have in common: the styles that they name, and their order.
 
 inline constexpr Color kResultColor = {220, 84, 173};
 

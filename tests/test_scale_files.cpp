@@ -133,7 +133,7 @@ private slots:
         QVERIFY(!open.saving && open.title == "Select a Grading Scale" && open.folder == save.folder);
     }
 
-    void onlyTheFirstLineLosesItsByteOrderMark()
+    void aLineLosesOneByteOrderMarkAndInvalidBytesAreReplaced()
     {
         QTemporaryDir const folder;
         FolderItem const item(folder.filePath("marks").toStdString());
