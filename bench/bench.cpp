@@ -1,5 +1,5 @@
 #include "bench/measure.h"
-#include "platform/doors.h"
+#include "platform/qt/doors.h"
 #include "platform/runtime.h"
 
 #include <QGuiApplication>

@@ -1,6 +1,6 @@
 #include "bench/measure.h"
 #include "frame/form_state.h"
-#include "platform/doors.h"
+#include "platform/qt/doors.h"
 #include "presenter/presenter.h"
 #include "session/history.h"
 

@@ -1,6 +1,6 @@
 #include "bench/measure.h"
 #include "frame/mainscreen.h"
-#include "platform/doors.h"
+#include "platform/qt/doors.h"
 #include "presenter/presenter.h"
 
 #include <QMainWindow>

@@ -5,8 +5,6 @@
 #include <optional>
 #include <string>
 
-struct FileDialogRequest;
-
 /// Asks the user for a file to open.
 struct OpenDialog {
     FolderItem InitialDirectory;
@@ -26,6 +24,3 @@ struct SaveAsDialog {
     /// Returns the chosen place, or nothing if the user cancels.
     [[nodiscard]] std::optional<FolderItem> ShowModal() const;
 };
-
-/// Shows a file dialog as the desktop does it. Returns the path of the chosen file, or nothing.
-std::optional<std::string> ShowFileDialog(FileDialogRequest const& request);

@@ -2,8 +2,6 @@
 
 #include <string_view>
 
-struct MessageBoxRequest;
-
 /// What a question answers.
 inline constexpr int kYes = 6;
 inline constexpr int kNo = 7;
@@ -17,6 +15,3 @@ void MsgBox(std::string_view text);
 /// Asks a question; the only form of buttons is kYesNoQuestion. Returns kYes or kNo. No is the default, and what
 /// Escape and the end of the program answer.
 int MsgBox(std::string_view text, int buttons, std::string_view title);
-
-/// The same, as the desktop does it.
-int ShowMessageBox(MessageBoxRequest const& request);

@@ -6,7 +6,6 @@
 #include <string_view>
 
 class PrintJob;
-class QPrinter;
 
 /// A print job, drawn page by page. One unit is 1/72 inch, counted from the top left corner of the paper. The
 /// destruction of the object ends the job.
@@ -34,7 +33,3 @@ private:
 /// Shows the print dialog for a document of this title. Null if the user cancels, and with the fault if no dialog can
 /// be shown.
 std::unique_ptr<Graphics> OpenPrinterDialog(std::string_view title, std::string& fault);
-
-/// Shows the print dialog as the desktop does it. False if the user cancels, and with the fault if no dialog can be
-/// shown.
-bool ShowPrintDialog(QPrinter& printer, std::string& fault);

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "frame/mainscreen.h"
-#include "platform/doors.h"
 #include "platform/message_box.h"
+#include "platform/qt/doors.h"
 
 #include <QApplication>
 #include <QLineEdit>

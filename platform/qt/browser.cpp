@@ -1,6 +1,6 @@
 #include "platform/browser.h"
 
-#include "platform/doors.h"
+#include "platform/qt/doors.h"
 #include "platform/qt/text.h"
 
 #include <QDesktopServices>

@@ -1,6 +1,6 @@
 #include "platform/buttons.h"
 
-#include "platform/guarded.h"
+#include "platform/qt/guarded.h"
 #include "platform/qt/text.h"
 #include "platform/qt/widgets/button_widgets.h"
 #include "platform/qt/widgets/top_level.h"

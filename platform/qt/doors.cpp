@@ -1,4 +1,4 @@
-#include "platform/doors.h"
+#include "platform/qt/doors.h"
 
 Doors& PlatformDoors()
 {

@@ -1,4 +1,4 @@
-#include "platform/guarded.h"
+#include "platform/qt/guarded.h"
 
 std::function<void(std::string_view reason)>& ExceptionHelper()
 {

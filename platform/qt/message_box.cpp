@@ -1,6 +1,6 @@
 #include "platform/message_box.h"
 
-#include "platform/doors.h"
+#include "platform/qt/doors.h"
 #include "platform/qt/system/runtime_object.h"
 #include "platform/qt/text.h"
 #include "platform/qt/widgets/dialogs.h"

@@ -1,7 +1,7 @@
 #include "platform/printing.h"
 
-#include "platform/doors.h"
-#include "platform/guarded.h"
+#include "platform/qt/doors.h"
+#include "platform/qt/guarded.h"
 #include "platform/qt/system/runtime_object.h"
 #include "platform/qt/system/save_file.h"
 #include "platform/qt/text.h"

@@ -1,11 +1,11 @@
 #include "platform/runtime.h"
 
 #include "platform/browser.h"
-#include "platform/doors.h"
 #include "platform/file_dialogs.h"
-#include "platform/guarded.h"
 #include "platform/message_box.h"
 #include "platform/printing.h"
+#include "platform/qt/doors.h"
+#include "platform/qt/guarded.h"
 #include "platform/qt/system/native.h"
 #include "platform/qt/system/runtime_object.h"
 #include "platform/qt/widgets/focus_order.h"

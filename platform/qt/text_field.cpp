@@ -1,6 +1,6 @@
 #include "platform/text_field.h"
 
-#include "platform/guarded.h"
+#include "platform/qt/guarded.h"
 #include "platform/qt/text.h"
 #include "platform/qt/widgets/focus_order.h"
 #include "platform/qt/widgets/form_palette.h"

@@ -1,6 +1,6 @@
 #include "platform/window.h"
 
-#include "platform/guarded.h"
+#include "platform/qt/guarded.h"
 #include "platform/qt/system/runtime_object.h"
 #include "platform/qt/text.h"
 #include "platform/qt/widgets/form_palette.h"
