@@ -1,7 +1,7 @@
 #pragma once
 
 #include "frame/accessors.h"
-#include "frame/windows.h"
+#include "frame/instances.h"
 #include "platform/buttons.h"
 #include "platform/label.h"
 #include "platform/window.h"

@@ -18,9 +18,11 @@ std::optional<FolderItem> ChooseFileToOpen(std::string_view title)
 
 std::optional<FolderItem> ChooseFileToSave(std::string_view suggestedName)
 {
-    SaveAsDialog const dialog{.InitialDirectory = Documents(),
-                              .PromptText = "Enter a filename",
-                              .SuggestedFileName = std::string(suggestedName),
-                              .Title = "Save your file"};
+    SaveAsDialog const dialog = {
+        .InitialDirectory = Documents(),
+        .PromptText = "Enter a filename",
+        .SuggestedFileName = std::string(suggestedName),
+        .Title = "Save your file",
+    };
     return dialog.ShowModal();
 }

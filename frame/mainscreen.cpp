@@ -10,13 +10,14 @@ namespace {
 
 constexpr int kMaxLengthOfAmax = 3;
 
-// Behind the frame of the grading scale the rows stand in the order of the keyboard, and so do those in the box.
+// Row one is the frame of the grading scale, which lies behind everything and comes last in the order of the keyboard.
+// All other rows stand in that order, and so do those in the box.
 constexpr int kTabs[] = {
 #define CONTROL(tab, ...) tab,
 #define CHILD(...)
 #include "frame/mainscreen.def"
 };
-static_assert(IsRising(std::span(kTabs).subspan(1)));
+static_assert(IsRising(std::span(kTabs).subspan(1)) && kTabs[0] > kTabs[std::size(kTabs) - 1]);
 
 constexpr int kTabsInBox[] = {
 #define CHILD(tab, ...) tab,
@@ -31,7 +32,7 @@ constexpr std::string_view kFormOrder[] = {
 
 constexpr std::string_view kScaleOrder[] = {
 #define SCALE_FIELD(name, ...) #name,
-#include "scale/bands.def"
+#include "frame/bands.def"
 };
 
 static_assert(std::ranges::equal(kFormOrder, kScaleOrder),
@@ -59,13 +60,14 @@ mainscreen::mainscreen() : Window("mainscreen")
 void mainscreen::Layout()
 {
     MenuBar(::Menu());
-    _SetProperties(*this, {
-                              .title = "Gradeloom X",
-                              .width = 705,
-                              .height = 438,
-                              .hasMinimizeButton = true,
-                              .background = Color{93, 186, 202}
-    });
+    WindowProperties const properties = {
+        .title = "Gradeloom X",
+        .width = 705,
+        .height = 438,
+        .hasMinimizeButton = true,
+        .background = Color{93, 186, 202},
+    };
+    _SetProperties(*this, properties);
 }
 
 void mainscreen::CreateControls()
@@ -76,7 +78,7 @@ void mainscreen::CreateControls()
     _CreateControls3();
 
 #define SCALE_FIELD(name, defaultValue) name().Text(#defaultValue);
-#include "scale/bands.def"
+#include "frame/bands.def"
 
 #define LABEL_OF(label, control) label().LabelFor(control());
 #include "frame/mainscreen.def"
@@ -104,7 +106,7 @@ void mainscreen::CreateControls()
     name().KeyDown = [this](TextField& sender, auto const& key) { return name##_KeyDown(sender, key); };     \
     name().GotFocus = [this](TextField& sender) { name##_GotFocus(sender); };                                \
     name().TextChange = [this](TextField& sender) { name##_TextChange(sender); };
-#include "scale/bands.def"
+#include "frame/bands.def"
 }
 
 // _CreateControls0 to _CreateControls3 create the rows of their sections.

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "frame/accessors.h"
-#include "frame/windows.h"
+#include "frame/instances.h"
 #include "platform/buttons.h"
 #include "platform/group_box.h"
 #include "platform/label.h"
@@ -15,7 +15,8 @@
 ///   The form: controls, layout, wiring             frame/mainscreen.def, frame/mainscreen.cpp
 ///   The menu: items, which are on, Close           frame/menu.def, frame/mainscreen_menu.cpp
 ///   The other windows' menu commands               frame/author.cpp, presenter/presenter.cpp
-///   The scale: fields, default                     scale/bands.def, scale/default_scale.cpp
+///   What is cleared after a session                frame/clear_results.h
+///   The scale: fields, default                     frame/bands.def, scale/default_scale.cpp
 ///   The scale's repair                             scale/scale_repair.cpp
 ///   The scale's files, the event of opening        scale/scale_files.cpp
 ///   The guard of the scale fields                  scale/edit_guard.cpp
@@ -48,7 +49,7 @@ public:
     virtual bool name##_KeyDown(TextField& sender, std::string const& key);                                  \
     virtual void name##_GotFocus(TextField& sender);                                                         \
     virtual void name##_TextChange(TextField& sender);
-#include "scale/bands.def"
+#include "frame/bands.def"
 
     virtual void PushButton2_Action();  // scale/scale_files.cpp
     virtual void PushButton3_Action();  // scale/default_scale.cpp

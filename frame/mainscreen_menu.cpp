@@ -1,23 +1,15 @@
 #include "frame/mainscreen.h"
 
-#include <initializer_list>
-#include <utility>
-
 void mainscreen::AddMenuHandlers()
 {
-    using Handler = bool (mainscreen::*)();
-    for (auto const& [item, handler] : std::initializer_list<std::pair<char const*, Handler>>{
-             {"About",       &mainscreen::_About_Action      },
-             {"FileClose",   &mainscreen::_FileClose_Action  },
-             {"FileReset",   &mainscreen::_FileReset_Action  },
-             {"EditUndo",    &mainscreen::_EditUndo_Action   },
-             {"FilePrint",   &mainscreen::_FilePrint_Action  },
-             {"FileExport",  &mainscreen::_FileExport_Action },
-             {"FileOpen",    &mainscreen::_FileOpen_Action   },
-             {"filepresent", &mainscreen::_filepresent_Action}
-    }) {
-        _AddMenuHandler(*this, item, [this, action = handler] { return (this->*action)(); });
-    }
+    _AddMenuHandler(*this, "About", [this] { return _About_Action(); });
+    _AddMenuHandler(*this, "FileClose", [this] { return _FileClose_Action(); });
+    _AddMenuHandler(*this, "FileReset", [this] { return _FileReset_Action(); });
+    _AddMenuHandler(*this, "EditUndo", [this] { return _EditUndo_Action(); });
+    _AddMenuHandler(*this, "FilePrint", [this] { return _FilePrint_Action(); });
+    _AddMenuHandler(*this, "FileExport", [this] { return _FileExport_Action(); });
+    _AddMenuHandler(*this, "FileOpen", [this] { return _FileOpen_Action(); });
+    _AddMenuHandler(*this, "filepresent", [this] { return _filepresent_Action(); });
     _SetEnableMenuItems(*this, [this] { Event_EnableMenuItems(); });
 }
 

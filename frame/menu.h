@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/windows.h"
+#include "frame/instances.h"
 #include "platform/menu_bar.h"
 
 /// The one menu bar, shown by all three windows. Its items never change; which of them are on depends on the

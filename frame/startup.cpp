@@ -1,7 +1,7 @@
 #include "frame/startup.h"
 
 #include "frame/app.h"
-#include "frame/windows.h"
+#include "frame/instances.h"
 #include "platform/message_box.h"
 #include "platform/runtime.h"
 

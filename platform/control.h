@@ -22,9 +22,9 @@ struct ControlStyle {
 /// What a form states of a control. Places are device-independent pixels from the top left of the window's
 /// content, also for a control inside a group box.
 struct ControlProperties {
-    int tabIndex; ///< place in the keyboard order, lowest first, counted within the parent
-    std::string_view
-        caption; ///< what it shows; what has no caption of its own is called so by assistive programs
+    int tabIndex; ///< order of the keyboard, lowest first, counted within the parent
+    /// What it shows; for a control that shows no caption, its accessible name.
+    std::string_view caption;
     int left;
     int top;
     int width;

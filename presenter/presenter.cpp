@@ -33,13 +33,14 @@ Window1::Window1() : Window("Window1")
 void Window1::Layout()
 {
     MenuBar(::Menu());
-    _SetProperties(*this, {
-                              .title = "Presenter",
-                              .width = 631,
-                              .height = 646,
-                              .hasCloseButton = true,
-                              .background = Color{96, 186, 202}
-    });
+    WindowProperties const properties = {
+        .title = "Presenter",
+        .width = 631,
+        .height = 646,
+        .hasCloseButton = true,
+        .background = Color{96, 186, 202},
+    };
+    _SetProperties(*this, properties);
 }
 
 void Window1::CreateControls()

@@ -20,7 +20,7 @@ struct Band {
 inline constexpr auto kBands = std::to_array<Band>({
 #define BAND(letter, inNotice, maximum, maximumDefault, minimum, minimumDefault, tally)                      \
     {letter, inNotice, &mainscreen::maximum, &mainscreen::minimum, &mainscreen::tally},
-#include "scale/bands.def"
+#include "frame/bands.def"
 });
 
 /// The places of the bounds in the scale: bound::aplusmax is 0, bound::aplusmin is 1 and so on. A band's
@@ -28,7 +28,7 @@ inline constexpr auto kBands = std::to_array<Band>({
 namespace bound {
 enum Place : std::size_t {
 #define SCALE_FIELD(name, defaultValue) name,
-#include "scale/bands.def"
+#include "frame/bands.def"
     kCount
 };
 } // namespace bound

@@ -7,7 +7,7 @@ namespace {
 
 constexpr auto kDefaults = std::to_array<int>({
 #define SCALE_FIELD(name, defaultValue) defaultValue,
-#include "scale/bands.def"
+#include "frame/bands.def"
 });
 
 /// Whether the repair would find nothing to change in the default scale, and a save nothing to refuse.
@@ -35,5 +35,5 @@ void mainscreen::PushButton3_Action()
         return;
     }
 #define SCALE_FIELD(name, defaultValue) name().Text(#defaultValue);
-#include "scale/bands.def"
+#include "frame/bands.def"
 }

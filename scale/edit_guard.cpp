@@ -1,9 +1,8 @@
+#include "frame/clear_results.h"
 #include "frame/conversions.h"
 #include "frame/form_state.h"
-#include "frame/mainscreen.h"
 #include "platform/message_box.h"
 #include "scale/bands.h"
-#include "session/reset.h"
 
 #include <cassert>
 #include <string>
@@ -85,4 +84,4 @@ void mainscreen::shouldreset()
     {                                                                                                        \
         HandleChange(*this, sender);                                                                         \
     }
-#include "scale/bands.def"
+#include "frame/bands.def"

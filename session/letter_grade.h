@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/windows.h"
+#include "frame/instances.h"
 #include "platform/text_field.h"
 
 #include <string_view>

@@ -121,7 +121,15 @@ void RecordScore(class mainscreen& window, Score const& score, bool isByCorrect)
     if (!isByCorrect) {
         window.missed().Text("");
     }
-    AppendEntry(window, entrycount, score.percent, score.nummissed, classaverage);
+    Entry const entry = {
+        .number = entrycount,
+        .percent = score.percent,
+        .nummissed = score.nummissed,
+        .letter = window.lettergrade().Text(),
+        .classaverage = classaverage,
+        .runningsum = CDbl(window.average().Text()),
+    };
+    AppendEntry(window, entry);
 }
 
 /// Makes one entry of what was typed; false if it is refused.

@@ -1,10 +1,9 @@
+#include "frame/clear_results.h"
 #include "frame/conversions.h"
 #include "frame/form_state.h"
-#include "frame/mainscreen.h"
 #include "platform/announcement.h"
 #include "session/history.h"
 #include "session/letter_grade.h"
-#include "session/reset.h"
 
 namespace {
 

@@ -172,10 +172,7 @@ private slots:
 
     void theStampsAreSetBeforeTheQuestionAndThePointsAreRestoredAfterTheNotice()
     {
-        TestSession session({
-            {kQuestion, kNo},
-            {kPointsAreFixed}
-        });
+        TestSession session({{kQuestion, kNo}, {kPointsAreFixed}});
         session.setFields("amin=98 total=37.5");
         session.whileBoxIsUp = [&] { session.expectFields("problem=1 pointstemp=37.5"); };
         session.form().PushButton1_Action();

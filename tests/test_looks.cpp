@@ -15,9 +15,9 @@ struct Theme {
     char const* name;
     QColor window, base, text;
 } const kThemes[] = {
-    {"light",         {239, 239, 239}, Qt::white,    Qt::black      },
-    {"dark",          {49, 54, 59},    {35, 38, 41}, {239, 240, 241}},
-    {"high contrast", Qt::black,       Qt::black,    Qt::yellow     },
+    {"light", {239, 239, 239}, Qt::white, Qt::black},
+    {"dark", {49, 54, 59}, {35, 38, 41}, {239, 240, 241}},
+    {"high contrast", Qt::black, Qt::black, Qt::yellow},
 };
 
 double Luminance(QColor const& color)
@@ -169,10 +169,7 @@ private slots:
         session.enterScores("40", {"4", "8"});
         ::Window1();
         ::Author();
-        for (auto const& [name, stops] : {
-                 std::pair("mainscreen", 43), {"Window1", 5},
-                   {"Author",  1}
-        }) {
+        for (auto const& [name, stops] : {std::pair("mainscreen", 43), {"Window1", 5}, {"Author", 1}}) {
             session.activate(name);
             int found = 0;
             for (QWidget* const control :

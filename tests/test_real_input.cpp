@@ -159,12 +159,11 @@ private slots:
         QCOMPARE(rows->headerData(1, Qt::Horizontal).toString(), "Percentage"_L1);
 #if QT_VERSION < QT_VERSION_CHECK(6, 8, 0) // later ones leave nothing behind that a test could ask
         for (auto const& [acts, words] : std::initializer_list<std::pair<QString, QString>>{
-                 {u"total=30; missed=3 Return"_s, u"90 percent, A-"_s     },
-                 {u"missed=4 Return"_s,           u"86.66667 percent, B"_s},
-                 {u"missed=5 Return; EditUndo"_s, u"2 students"_s         },
-                 {u"EditUndo"_s,                  u"1 student"_s          },
-                 {u"EditUndo"_s,                  u"no students"_s        }
-        }) {
+                 {u"total=30; missed=3 Return"_s, u"90 percent, A-"_s},
+                 {u"missed=4 Return"_s, u"86.66667 percent, B"_s},
+                 {u"missed=5 Return; EditUndo"_s, u"2 students"_s},
+                 {u"EditUndo"_s, u"1 student"_s},
+                 {u"EditUndo"_s, u"no students"_s}}) {
             session.play(acts);
             QCOMPARE(SpokenIn(*session.window()), words);
         }

@@ -29,10 +29,10 @@ void Paste(LineEdit& field)
 }
 
 constexpr std::array kTextCommands = {
-    TextCommand{"EditCut",   true,  Cut  },
-    TextCommand{"EditCopy",  false, Copy },
-    TextCommand{"EditPaste", true,  Paste},
-    TextCommand{"EditClear", true,  Clear},
+    TextCommand{"EditCut", true, Cut},
+    TextCommand{"EditCopy", false, Copy},
+    TextCommand{"EditPaste", true, Paste},
+    TextCommand{"EditClear", true, Clear},
 };
 
 } // namespace

@@ -59,8 +59,8 @@ private:
     void redirectEdit();
     void reportChange();
 
-    QString
-        lastText_; ///< what the program or the last reported change left, to see whether an act changed it
+    /// The text after the last write by the program or the last reported change.
+    QString lastText_;
     int limit_;
     int userActs_ = 0;          ///< acts of the user under way, one inside the other
     bool isWriting_ = false;    ///< the text changes by no act of the user
