@@ -1,5 +1,6 @@
 #include "tests/harness.h"
 
+#include <QAccessible>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -38,6 +39,21 @@ void PressAt(quint64 time, QWidget* receiver, bool isHeld)
     QKeyEvent key(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, isHeld);
     key.setTimestamp(time);
     QCoreApplication::sendEvent(receiver, &key);
+}
+
+/// Asks for what an assistive program can ask of the one that has this name: to act or to hold a 7.
+void Ask(QAccessibleInterface const& in, QString const& name)
+{
+    for (int i = 0; i < in.childCount(); ++i) {
+        QAccessibleInterface& child = *in.child(i);
+        if (child.text(QAccessible::Name) != name) {
+            Ask(child, name);
+        } else if (child.state().editable) {
+            child.setText(QAccessible::Value, u"7"_s);
+        } else {
+            child.actionInterface()->doAction(child.actionInterface()->actionNames().front());
+        }
+    }
 }
 
 // clang-format off
@@ -120,6 +136,59 @@ private slots:
         });
         QVERIFY(answer == kYes);
         QVERIFY(AnswerTo(true, [](QMessageBox& box, QTimer const& /*quiet*/) { box.close(); }) == kNo);
+    }
+
+    void anAssistiveProgramIsAnsweredAtOnceAndCanDoNothingBehindABox()
+    {
+        for (char const* const opens :
+             {"Open Grading Scale...", "A minimum", "Print...", "Export Results...", "nothing"}) {
+            bool const isBox = opens != "nothing"_L1;
+            TestSession const session;
+            session.play("filepresent");
+            session.activate();
+            session.enterScores("30", {"3", "6"});
+            TestSession::useRealDoors();
+            QAccessibleInterface const& all = *QAccessible::queryAccessibleInterface(session.window());
+            QString found;
+            QWidget const* focused = nullptr;
+            QTimer::singleShot(50, qApp, [&] {
+                QWidget* const box = QApplication::activeModalWidget();
+                focused = session.window()->focusWidget();
+                for (char const* const name :
+                     {"Number Missed", "Use Number Correct", "Grade", "Undo", "File"}) {
+                    Ask(all, name);
+                    QTest::qWait(150); // a button stays down for 100 milliseconds
+                    found += session.texts("numstudents missed") + u' ';
+                }
+                QVERIFY(QApplication::activePopupWidget() == nullptr);
+                session.widget("percentage")->setFocus();
+                Ask(all, u"Close"_s);
+                QTest::qWait(10);
+                QVERIFY(box == QApplication::activeModalWidget() && (box == nullptr || box->close()));
+            });
+            Ask(all, QLatin1String(opens));
+            QVERIFY(found.isEmpty());
+            Ask(all, QLatin1String(isBox ? "Grade" : opens)); // which would act behind the box
+            QTRY_COMPARE(found, isBox ? "2| 2| 2| 2| 2| "_L1 : "2|7 2|7 3|6 2|6 2|6 "_L1);
+            QTRY_COMPARE(session.window() != nullptr, isBox);
+            QVERIFY(!isBox || !session.form().checkcorrect().Value());
+            QVERIFY(!isBox || session.window()->focusWidget() == focused);
+        }
+    }
+
+    void aWindowThatClosesBehindABoxOutlivesItsHandler()
+    {
+        TestSession session({{kNeedsPoints}});
+        session.play("filepresent");
+        session.activate();
+        QPointer<QWidget> const window = session.window();
+        session.whileBoxIsUp = [&] {
+            session.form().Close();
+            QTest::qWait(1);
+            QVERIFY(window != nullptr);
+        };
+        session.play("PushButton1");
+        QTRY_VERIFY(window == nullptr);
     }
 
     void theNoticeComesBeforeTheNextKeyAndLosesNone()

@@ -144,19 +144,6 @@ private slots:
         QCOMPARE(on.join(u' '), QLatin1String(row->on));
     }
 
-    void aCommandOfAnAssistiveProgramIsAnsweredBeforeItRuns()
-    {
-        TestSession session({{"There is currently no data to send to the printer."}});
-        QList<QAction*> const items = session.menuItems();
-        bool isAnswered = false;
-        session.whileBoxIsUp = [&] { QVERIFY(isAnswered); };
-        QTimer::singleShot(0, qApp, [&] {
-            (*std::ranges::find(items, u"FilePrint"_s, &QAction::objectName))->trigger();
-            isAnswered = true;
-        });
-        QTRY_VERIFY(session.allBoxesSeen());
-    }
-
     void theAboutWindowOpensThePageAsTheMouseGoesDown()
     {
         TestSession session;

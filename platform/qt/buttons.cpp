@@ -3,6 +3,7 @@
 #include "platform/qt/guarded.h"
 #include "platform/qt/text.h"
 #include "platform/qt/widgets/button_widgets.h"
+#include "platform/qt/widgets/dialogs.h"
 #include "platform/qt/widgets/top_level.h"
 
 namespace {
@@ -16,6 +17,9 @@ PushButtonWidget& ConnectAction(Control const& control, std::function<void()> co
     auto& button = static_cast<PushButtonWidget&>(control.Widget());
     button.hasAction = [&action] { return static_cast<bool>(action); };
     QObject::connect(&button, &QAbstractButton::clicked, &button, [&button, &action] {
+        if (IsDialogOpen()) {
+            return;
+        }
         if (auto* const top = dynamic_cast<TopLevel*>(button.window())) {
             top->beginCommand();
         }

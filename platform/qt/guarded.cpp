@@ -1,5 +1,38 @@
 #include "platform/qt/guarded.h"
 
+#include <vector>
+
+namespace {
+
+int runningHandlers = 0; // nested: behind the message box of one another one can run
+std::vector<std::function<void()>> afterHandlers;
+
+} // namespace
+
+RunningHandler::RunningHandler()
+{
+    ++runningHandlers;
+}
+
+RunningHandler::~RunningHandler()
+{
+    --runningHandlers;
+    if (runningHandlers == 0) {
+        for (auto const& act : std::exchange(afterHandlers, {})) {
+            act();
+        }
+    }
+}
+
+void AfterHandlers(std::function<void()> const& act)
+{
+    if (runningHandlers == 0) {
+        act();
+    } else {
+        afterHandlers.push_back(act);
+    }
+}
+
 std::function<void(std::string_view reason)>& ExceptionHelper()
 {
     static std::function<void(std::string_view)> helper;

@@ -2,6 +2,7 @@
 
 #include "platform/qt/system/runtime_object.h"
 #include "platform/qt/text.h"
+#include "platform/qt/widgets/dialogs.h"
 #include "platform/qt/widgets/line_edit.h"
 #include "platform/qt/widgets/menu_action.h"
 #include "platform/qt/widgets/program.h"
@@ -106,7 +107,12 @@ void MenuItem::BuildMenu(MenuBar& bar)
     if (opens) {
         menu_ = std::make_unique<QMenu>(action_->text());
         action_->setMenu(menu_.get());
-        QObject::connect(menu_.get(), &QMenu::aboutToShow, menu_.get(), [&bar] { bar.Update(); });
+        QObject::connect(menu_.get(), &QMenu::aboutToShow, menu_.get(), [this, &bar] {
+            bar.Update();
+            if (IsDialogOpen()) { // only an assistive program can open a menu then
+                QMetaObject::invokeMethod(menu_.get(), &QMenu::close, Qt::QueuedConnection);
+            }
+        });
     } else {
         QObject::connect(action_.get(), &QAction::triggered, action_.get(),
                          [this] { Program::runCommand([this] { MenuBar::Choose(*this); }); });
@@ -194,6 +200,9 @@ void MenuBar::Update()
 /// Carries out a command: here, or by the handler of the window in front.
 void MenuBar::Choose(MenuItem const& item)
 {
+    if (IsDialogOpen()) {
+        return;
+    }
     TopLevel* const front = TopLevel::front();
     if (dynamic_cast<QuitMenuItem const*>(&item) != nullptr) {
         Runtime::instance().end();

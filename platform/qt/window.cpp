@@ -13,16 +13,17 @@
 
 namespace {
 
-/// Keeps a closed window until the current event is over: it may have closed in a handler of its own.
+/// Destroys a closed window once no handler runs, and then after the current event: both may be the window's own. An
+/// event alone is not enough, since a handler's message box handles events while the handler waits.
 class ClosedWindow final : public QObject {
 public:
-    explicit ClosedWindow(std::shared_ptr<Window> window) : QObject(qApp), window_(std::move(window))
+    explicit ClosedWindow(std::unique_ptr<Window> window) : QObject(qApp), window_(std::move(window))
     {
-        deleteLater();
+        AfterHandlers([this] { deleteLater(); });
     }
 
 private:
-    std::shared_ptr<Window> window_;
+    std::unique_ptr<Window> window_;
 };
 
 } // namespace

@@ -1,6 +1,9 @@
 #include "platform/qt/system/runtime_object.h"
 
+#include "platform/application.h"
+#include "platform/menu_bar.h"
 #include "platform/qt/widgets/program.h"
+#include "platform/window.h"
 
 Runtime::Runtime() = default;
 Runtime::~Runtime() = default;

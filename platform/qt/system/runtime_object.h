@@ -19,9 +19,9 @@ public:
     Runtime& operator=(Runtime const&) = delete;
 
     /// The open windows by their class names. Closing the last one ends the program.
-    std::map<std::string, std::shared_ptr<Window>, std::less<>> windows;
-    std::vector<std::shared_ptr<MenuBar>> menuBars;
-    std::shared_ptr<Application> application;
+    std::map<std::string, std::unique_ptr<Window>, std::less<>> windows;
+    std::vector<std::unique_ptr<MenuBar>> menuBars;
+    std::unique_ptr<Application> application;
     int exitStatus = 0;
     bool isEnding = false; ///< since a call of end
 

@@ -1,5 +1,6 @@
 #include "platform/qt/widgets/button_widgets.h"
 
+#include "platform/qt/widgets/dialogs.h"
 #include "platform/qt/widgets/field_keys.h"
 #include "platform/qt/widgets/held_keys.h"
 
@@ -19,6 +20,12 @@ bool IsForOthers(QKeyEvent const& event)
 CheckBoxWidget::CheckBoxWidget(QWidget* parent) : QCheckBox(parent)
 {
     setFocusPolicy(Qt::TabFocus);
+    connect(this, &QCheckBox::toggled, this, [this](bool isOn) {
+        if (IsDialogOpen()) {
+            QSignalBlocker const unnoticed(this);
+            setChecked(!isOn);
+        }
+    });
 }
 
 void CheckBoxWidget::keyPressEvent(QKeyEvent* event)

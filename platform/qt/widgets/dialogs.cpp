@@ -1,5 +1,6 @@
 #include "platform/qt/widgets/dialogs.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QGuiApplication>
 #include <QPointer>
@@ -7,11 +8,20 @@
 int RunDialog(QDialog& dialog)
 {
     QPointer<QWidget> const asking(dialog.parentWidget());
+    QPointer<QWidget> const focused(asking != nullptr ? asking->focusWidget() : nullptr);
     int const result = dialog.exec();
+    if (focused != nullptr) {
+        focused->setFocus(); // an assistive program may have moved it
+    }
     if (asking != nullptr) {
         asking->activateWindow();
     }
     return result;
+}
+
+bool IsDialogOpen()
+{
+    return QApplication::activeModalWidget() != nullptr;
 }
 
 bool HasFamiliarDialogs()

@@ -1,5 +1,6 @@
 #include "platform/qt/widgets/tracked_line_edit.h"
 
+#include "platform/qt/widgets/dialogs.h"
 #include "platform/qt/widgets/menu_action.h"
 
 #include <QRegularExpression>
@@ -43,7 +44,12 @@ void TrackedLineEdit::redirectEdit()
     QString const wanted = text();
     setTextQuietly(QString(lastText_));
     if (!isReadOnly() && isEnabled() && isVisible()) {
-        QMetaObject::invokeMethod(this, [this, wanted] { takeEdit(wanted); }, Qt::QueuedConnection);
+        auto const repeat = [this, wanted] {
+            if (!IsDialogOpen()) {
+                takeEdit(wanted);
+            }
+        };
+        QMetaObject::invokeMethod(this, repeat, Qt::QueuedConnection);
     }
 }
 
