@@ -41,7 +41,7 @@ Decimal Significant(Double number, int count)
     return decimal;
 }
 
-/// Plain notation. Decimals beyond the limit are cut, then zeros at the end dropped.
+/// Plain notation. Decimals beyond the limit are cut, then trailing zeros dropped.
 std::string Plain(Decimal const& decimal, std::size_t maxDecimals)
 {
     std::string whole = "0";
@@ -118,7 +118,7 @@ std::string Format(Double number, std::string_view pattern)
 
 Double Round(Double number)
 {
-    // std::round is not right everywhere: Windows has one that makes 0.49999999999999994 a 1.
+    // Not std::round, which makes 0.49999999999999994 a 1 on Windows.
     Double const whole = std::trunc(number);
     bool const isBelowHalf = std::fabs(number - whole) < 0.5; // the difference is exact
     return isBelowHalf ? whole : whole + std::copysign(1.0, number);

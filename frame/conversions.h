@@ -24,7 +24,7 @@ using Double = double;
 [[nodiscard]] std::string Str(Double number);
 [[nodiscard]] std::string Str(Integer number);
 
-/// The number with at most as many decimals as the pattern has signs behind its point: "#.##" or "#.###". Further
+/// The number with at most as many decimals as the pattern has characters after its point: "#.##" or "#.###". Further
 /// decimals are cut, not rounded, but only after rounding to 15 digits: 28.999999999999996 becomes "29".
 [[nodiscard]] std::string Format(Double number, std::string_view pattern);
 

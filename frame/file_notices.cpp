@@ -29,6 +29,6 @@ void ReportNotOpened(FolderItem const& item, std::string const& fault)
 
 void ReportNotPrinted(std::string const& fileName, std::string const& reason)
 {
-    std::string const place = fileName.empty() ? "" : " to the file \"" + fileName + "\"";
-    MsgBox("The results could not be printed" + place + Because(reason));
+    std::string const target = fileName.empty() ? "" : " to the file \"" + fileName + "\"";
+    MsgBox("The results could not be printed" + target + Because(reason));
 }

@@ -6,7 +6,7 @@
 
 // The notices for files and printouts that fail. A fault is the platform's reason in words.
 
-/// Shows nothing if the fault is empty, as it is after a save that succeeded.
+/// An empty fault means success and shows nothing.
 void ReportUnlessSaved(FolderItem const& item, std::string const& fault);
 
 void ReportNotOpened(FolderItem const& item, std::string const& fault);

@@ -8,5 +8,5 @@
 /// The number of entries that numstudents shows, without a fraction; 0 while the field is empty.
 [[nodiscard]] Integer EntryCount(class mainscreen& window);
 
-/// Whether a hidden field that serves as a flag holds "1".
+/// Whether a hidden flag field holds "1".
 [[nodiscard]] bool IsSet(TextField const& flag);

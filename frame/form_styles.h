@@ -6,7 +6,7 @@
 #include <functional>
 #include <span>
 
-// What the rows of a form's table have in common: the styles that they name, and their order.
+// The styles that the rows of a form name, and the check of their order.
 
 inline constexpr Color kResultColor = {220, 84, 173};
 
@@ -18,7 +18,7 @@ inline constexpr ControlStyle platformSize = {.textSize = 0};
 inline constexpr ControlStyle result = {.readOnly = true, .background = kResultColor};
 inline constexpr ControlStyle hidden = {.visible = false};
 inline constexpr ControlStyle hiddenDisabled = {.visible = false, .enabled = false};
-inline constexpr ControlStyle hiddenReadOnly = {.visible = false, .enabled = false, .readOnly = true};
+inline constexpr ControlStyle hiddenDisabledReadOnly = {.visible = false, .enabled = false, .readOnly = true};
 
 } // namespace form_style
 

@@ -10,7 +10,7 @@
 #include "platform/window.h"
 
 /// The main window, in which a teacher grades a class. Its controls hold the whole state of a session as
-/// text, the hidden ones included; it has no data besides, and its handlers meet only in its controls.
+/// text, the hidden ones included; it has no other data, and its handlers share nothing else.
 ///
 ///   The form: controls, layout, wiring             frame/mainscreen.def, frame/mainscreen.cpp
 ///   The menu: items, which are on, Close           frame/menu.def, frame/mainscreen_menu.cpp
@@ -64,7 +64,7 @@ public:
     virtual void Event_EnableMenuItems();
     virtual void Event_Open(); // scale/scale_files.cpp
 
-    // The menu commands. None keeps its command from the platform, so all return false.
+    // The menu commands. All return false, so the platform may act too.
     virtual bool _About_Action(); // frame/author.cpp
     virtual bool _FileClose_Action();
     virtual bool _FileReset_Action();   // session/reset.cpp

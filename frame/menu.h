@@ -3,7 +3,7 @@
 #include "frame/instances.h"
 #include "platform/menu_bar.h"
 
-/// The one menu bar, shown by all three windows. Its items never change; which of them are on depends on the
+/// The one menu bar, shown by all three windows. Its items never change; which are enabled depends on the
 /// window in front. What they do is defined by the windows: see frame/mainscreen.h.
 class Menu final : public MenuBar {
 private:

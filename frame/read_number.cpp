@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The character that has this one's meaning in a number written in ASCII; "?" if it has none there.
+/// The ASCII character that means the same in a number, or "?".
 char ToAscii(char32_t character)
 {
     constexpr char32_t kAsciiEnd = 0x80;
@@ -38,7 +38,7 @@ char ToAscii(char32_t character)
     }
 }
 
-/// The text with the digits, signs and blanks of all scripts as those of ASCII.
+/// Replaces the digits, signs and blanks of all scripts by those of ASCII.
 std::string ToAscii(std::string_view text)
 {
     std::string ascii;

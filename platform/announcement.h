@@ -2,5 +2,5 @@
 
 #include <string_view>
 
-/// Makes a screen reader say a text. Without one nothing happens.
+/// Makes a running screen reader say the text.
 void Announce(std::string_view text);

@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-/// The application object: what the running program says of its own version.
+/// What the program says of its own version.
 class Application {
 public:
     virtual ~Application() = default;
@@ -21,5 +21,5 @@ public:
 /// Makes this the application object until the process ends.
 void _RuntimeRegisterAppObject(std::unique_ptr<Application> application);
 
-/// The registered application object; null before there is one.
+/// Null until one is registered.
 Application* _RuntimeAppObject();

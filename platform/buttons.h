@@ -4,23 +4,24 @@
 
 #include <functional>
 
-/// A button with a caption. A click leaves the keyboard focus where it is; Space presses it when focused.
+/// A click does not move the keyboard focus; Space presses the focused button.
 class PushButton final : public Control {
 public:
     PushButton(QWidget* parent, std::string const& name);
 
-    /// The button was clicked, by mouse or Space, or is the default button and Return was pressed.
+    /// A click, Space on the focused button, or Return if this is the default button.
     std::function<void()> Action;
-    /// The left mouse button went down at this place inside the button. True keeps the press from it.
+    /// The left mouse button went down at this point of the button. Returns true to stop the button from seeing the
+    /// press.
     std::function<bool(PushButton&, int x, int y)> MouseDown;
 
-    /// Makes this the button that Return and Enter press, whichever control of the window has the focus.
+    /// Return and Enter press this button, whichever control has the focus.
     void Default(bool isDefault);
 
     void Apply(ControlProperties const& properties) override;
 };
 
-/// A small button that takes no keyboard focus at all.
+/// A small button that never takes the keyboard focus.
 class BevelButton final : public Control {
 public:
     BevelButton(QWidget* parent, std::string const& name);
@@ -30,7 +31,6 @@ public:
     void Apply(ControlProperties const& properties) override;
 };
 
-/// A box that is checked or not.
 class CheckBox final : public Control {
 public:
     CheckBox(QWidget* parent, std::string const& name);

@@ -4,13 +4,13 @@
 #include <string>
 #include <string_view>
 
-// What the characters of a text are, as the Unicode standard classifies them.
+// Characters as the Unicode standard classifies them.
 
-/// The characters of a UTF-8 text. Invalid bytes become U+FFFD.
+/// Decodes UTF-8; invalid bytes become U+FFFD.
 [[nodiscard]] std::u32string Characters(std::string_view text);
 
-/// The value of a decimal digit of whatever script, 0 to 9; nothing for any other character.
+/// 0 to 9 for a decimal digit of any script, nothing for any other character.
 [[nodiscard]] std::optional<int> DigitValue(char32_t character);
 
-/// A blank of whatever width, but no tab and no line break.
+/// A space of any width; tabs and line breaks are none.
 [[nodiscard]] bool IsBlank(char32_t character);

@@ -9,9 +9,9 @@
 
 class QWidget;
 
-/// How a control looks. Each kind of control ignores what it has no use for.
+/// A control ignores what does not apply to its kind.
 struct ControlStyle {
-    int textSize = 12; ///< height of the font in pixels; 0 leaves it to the platform
+    int textSize = 12; ///< font height in pixels; 0 is the platform's size
     bool bold = false;
     bool visible = true;
     bool enabled = true;
@@ -19,11 +19,10 @@ struct ControlStyle {
     std::optional<Color> background = {}; ///< text fields only; without one a field is white
 };
 
-/// What a form states of a control. Places are device-independent pixels from the top left of the window's
-/// content, also for a control inside a group box.
+/// Coordinates are device-independent pixels from the top left of the window's content, inside a group box too.
 struct ControlProperties {
-    int tabIndex; ///< order of the keyboard, lowest first, counted within the parent
-    /// What it shows; for a control that shows no caption, its accessible name.
+    int tabIndex; ///< keyboard order within the parent, lowest first
+    /// What the control shows, else its accessible name.
     std::string_view caption;
     int left;
     int top;
@@ -32,18 +31,15 @@ struct ControlProperties {
     ControlStyle style;
 };
 
-/// One control of a window. It owns the widget that the user sees and deletes it, so no event comes for a
-/// control that is gone.
+/// Owns its widget, so no event arrives for a control that is gone.
 class Control {
 public:
     virtual ~Control();
     Control(Control const&) = delete;
     Control& operator=(Control const&) = delete;
 
-    /// The text that appears while the pointer rests on the control.
     void Tooltip(std::string_view text);
 
-    /// Applies what a form states of the control.
     virtual void Apply(ControlProperties const& properties);
 
     [[nodiscard]] int TabIndex() const { return tabIndex_; }

@@ -5,7 +5,6 @@
 #include <optional>
 #include <string>
 
-/// Asks the user for a file to open.
 struct OpenDialog {
     FolderItem InitialDirectory;
     std::string Title;
@@ -14,13 +13,13 @@ struct OpenDialog {
     [[nodiscard]] std::optional<FolderItem> ShowModal() const;
 };
 
-/// Asks the user for the name of a file to save, and before one is overwritten.
+/// Asks before an existing file is overwritten.
 struct SaveAsDialog {
     FolderItem InitialDirectory;
     std::string PromptText; ///< the label of the file name
     std::string SuggestedFileName;
     std::string Title;
 
-    /// Returns the chosen place, or nothing if the user cancels.
+    /// Returns the chosen file, or nothing if the user cancels.
     [[nodiscard]] std::optional<FolderItem> ShowModal() const;
 };

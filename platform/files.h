@@ -8,10 +8,9 @@
 
 class QFile;
 
-// Text files. They are UTF-8; written lines end as the platform ends them, reading takes every line end and
-// drops a byte order mark. A fault is a reason in words, empty if there was none.
+// Text files are UTF-8. Lines are written with the platform's line end; reading accepts any and drops a byte order
+// mark. A fault is the reason of a failure in words, or empty.
 
-/// A file being read, line by line.
 class TextInputStream {
 public:
     explicit TextInputStream(std::unique_ptr<QFile> file);
@@ -19,9 +18,9 @@ public:
     TextInputStream(TextInputStream const&) = delete;
     TextInputStream& operator=(TextInputStream const&) = delete;
 
-    /// Returns the next line without its end; an empty text past the end of the file and after a fault.
+    /// Returns the next line without its line end; empty past the end of the file and after a fault.
     std::string ReadLine();
-    /// Why the file can't be read on: an error of the disk, or a line too long to be one of a text.
+    /// Why reading failed: a disk error, or a line too long for a text file.
     [[nodiscard]] std::string const& Fault() const { return fault_; }
     void Close();
 
@@ -33,8 +32,8 @@ private:
     std::string fault_;
 };
 
-/// A file being written. Nothing reaches the disk before Close, which replaces the old file atomically; after a
-/// fault the old file is as it was.
+/// Nothing reaches the disk before Close, which replaces the old file atomically; after a fault the old file is
+/// unchanged.
 class TextOutputStream {
 public:
     TextOutputStream(std::string path, bool makesFolder);
@@ -49,7 +48,7 @@ private:
     std::string text_;
 };
 
-/// A place in the file system, whether or not there is something.
+/// A path, whether or not anything exists there.
 class FolderItem {
 public:
     explicit FolderItem(std::string path, bool makesFolder = false);
@@ -57,22 +56,22 @@ public:
     [[nodiscard]] std::string Name() const;
     [[nodiscard]] std::string const& Path() const { return path_; }
     [[nodiscard]] bool IsFolder() const;
-    /// The item of that name in this folder; with followAlias a link counts as what it points to.
+    /// The item of that name in this folder; with followAlias what a link points to.
     [[nodiscard]] FolderItem Child(std::string_view name, bool followAlias) const;
 
-    /// Creates the file, or replaces the one that is there.
+    /// Creates or replaces the file.
     [[nodiscard]] TextOutputStream CreateTextFile() const;
-    /// Opens a plain file. Returns null and sets the fault if that can't be done.
+    /// Opens a plain file. Returns null and sets the fault if that fails.
     [[nodiscard]] std::unique_ptr<TextInputStream> OpenAsTextFile(std::string& fault) const;
 
 private:
     std::string path_;
-    bool makesFolder_; ///< a save creates the folder that it is in
+    bool makesFolder_; ///< a save creates its folder
 };
 
-/// The item for a path; a bare name is in the folder of the program's own settings. Nothing if there is no such
-/// folder. The mode, how an alias is treated elsewhere, must be 0.
+/// A bare name is in the program's settings folder. Returns nothing if the system has no such folder. The mode must
+/// be 0.
 std::optional<FolderItem> GetFolderItem(std::string_view path, int mode);
 
-/// The root of a volume, counted from 0; beyond the last one it is the system's root.
+/// The root of a volume, counted from 0; past the last one, the system's root.
 FolderItem Volume(int index);

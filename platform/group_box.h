@@ -2,7 +2,7 @@
 
 #include "platform/control.h"
 
-/// A frame with a caption, which other controls may have as their parent.
+/// A frame with a caption; the controls inside it are its children.
 class GroupBox final : public Control {
 public:
     GroupBox(QWidget* parent, std::string const& name);

@@ -7,19 +7,17 @@
 class ListModel;
 class ListView;
 
-/// A list of rows with one or more columns of text. Rows and columns count from 0; a read outside the list
-/// returns an empty text, a write outside it is ignored. Appending costs the same at any length. A list that is
-/// not shown consists of its rows alone; there, widths and the type of selection are ignored.
+/// Rows and columns of text, counted from 0. A read outside the list returns an empty text, a write is ignored.
+/// Appending takes constant time. A hidden list ignores column widths and the selection type.
 class Listbox final : public Control {
 public:
     Listbox(QWidget* parent, std::string const& name);
 
-    /// How a cell's text is aligned.
     enum Alignment { Default = 0, Left = 1, Right = 3 };
 
-    /// Appends a row with this text in its first column, and brings it into sight.
+    /// Appends a row with this text in its first column, and scrolls to it.
     void AddRow(std::string_view text);
-    /// Removes one row; later rows move up, and the last one that remains comes into sight.
+    /// Later rows move up; scrolls to the last one.
     void RemoveRow(std::int64_t row);
     void DeleteAllRows();
 
@@ -30,9 +28,9 @@ public:
     void CellAlignment(std::int64_t row, int column, Alignment alignment);
 
     void ColumnCount(int count);
-    /// Widths in pixels, separated by commas; columns without one share what is left.
+    /// Pixels, separated by commas; columns without a width share the rest.
     void ColumnWidths(std::string_view widths);
-    /// What assistive programs call the columns, separated by commas; nothing of it is shown.
+    /// Column names for assistive programs, separated by commas; not shown.
     void SpokenHeaders(std::string_view headers);
     /// 0: one row can be selected at a time, 1: several.
     void RowSelectionType(int type);

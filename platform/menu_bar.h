@@ -10,11 +10,11 @@ class MenuBar;
 class QMenu;
 class TopLevel;
 
-/// One item of a menu bar. An item without a caption is never shown but keeps its properties; the caption
-/// "-" is a separator. An item whose children have captions is a menu, any other is a command.
+/// An item without a text is never shown; the text "-" is a separator. An item with children that have a text is a
+/// menu, any other is a command.
 class MenuItem {
 public:
-    /// "Cmd" in a shortcut is the platform's command key.
+    /// "Cmd" in a shortcut is Command on macOS and Ctrl elsewhere.
     MenuItem(std::string_view name, std::string_view text, std::string_view shortcut);
     virtual ~MenuItem();
     MenuItem(MenuItem const&) = delete;
@@ -25,15 +25,15 @@ public:
     [[nodiscard]] bool Enabled() const;
     void Enabled(bool enabled);
 
-    /// If set, the item is enabled each time the bar is brought up to date and there is something for it to do.
+    /// Each update of the bar enables the item if there is a handler for it, else disables it.
     bool AutoEnabled = true;
 
     [[nodiscard]] bool Visible() const;
-    /// An item without a caption stays hidden all the same.
+    /// An item without a text stays hidden.
     void Visible(bool visible);
 
-    /// The next press of the shortcut does nothing, unless the user types something, chooses a command or moves
-    /// the focus first. Choosing the item itself always acts.
+    /// The next press of the shortcut does nothing, unless the user types, chooses a command or moves the
+    /// focus first. The item itself always acts.
     void IgnoreNextShortcut();
 
     MenuItem& Append(std::unique_ptr<MenuItem> child);
@@ -50,26 +50,26 @@ private:
 
     std::string text_;
     std::unique_ptr<MenuAction> action_;
-    std::unique_ptr<QMenu> menu_; ///< what the item opens; none for a command
+    std::unique_ptr<QMenu> menu_; ///< null for a command
     std::vector<std::unique_ptr<MenuItem>> children_;
     bool visible_ = true;
 };
 
-/// An item that belongs to the application's own menu on platforms that have one.
+/// Moves to the application menu on macOS.
 class AppleMenuItem final : public MenuItem {
 public:
     AppleMenuItem(std::string_view name, std::string_view text, std::string_view shortcut);
 };
 
-/// The item that ends the process; the platform carries it out.
+/// Ends the program; needs no handler.
 class QuitMenuItem final : public MenuItem {
 public:
     QuitMenuItem(std::string_view name, std::string_view text, std::string_view shortcut);
 };
 
-/// A menu bar that one or several windows show. A command goes to the handler of the window in front; one
-/// that has none there is disabled. The items EditCut, EditCopy, EditPaste and EditClear need no handler: they
-/// act on the focused text field and are disabled if there is none.
+/// Shared by the windows that show it. A command calls the handler of the window in front, and is disabled if that has
+/// none. EditCut, EditCopy, EditPaste and EditClear need no handler: they act on the focused text field, and are
+/// disabled without one.
 class MenuBar {
 public:
     MenuBar();

@@ -16,7 +16,7 @@
 
 class TopLevel;
 
-/// What a window's layout states of it; sizes are those of its content, in device-independent pixels.
+/// Sizes are those of the content, in device-independent pixels.
 struct WindowProperties {
     std::string_view title;
     int width;
@@ -27,22 +27,19 @@ struct WindowProperties {
     std::optional<Color> background = {}; ///< without one the platform's window colour
 };
 
-/// A plain window of fixed size. It keeps its controls by name. The run-time owns every open window: see
-/// KeepWindow and _GetImplicitWindow. A window class builds itself in its constructor, in this order: its layout,
-/// its controls, its menu handlers, Show, and its own event of opening.
+/// A window of fixed size, which owns its controls. The run-time owns every open window: see KeepWindow. A window class
+/// builds itself in its constructor, in this order: layout, controls, menu handlers, Show, its own opening event.
 class Window {
 public:
     virtual ~Window();
     Window(Window const&) = delete;
     Window& operator=(Window const&) = delete;
 
-    /// Makes the window visible and brings it to the front. At the first time its controls get their keyboard
-    /// order.
+    /// Shows the window in front. The first call sets the keyboard order of its controls.
     void Show();
-    /// Closes the window and destroys its controls, as soon as the current event is over.
+    /// Closes the window. It is destroyed once no handler runs and the current event is over.
     void Close();
 
-    /// The bar that the window shows above its content.
     void MenuBar(class MenuBar& bar);
     [[nodiscard]] class MenuBar& MenuBar() const;
 
@@ -62,7 +59,7 @@ protected:
         return result;
     }
 
-    /// The control that was registered under this name; there must be one, of this type.
+    /// There must be a control of this name and type.
     template <class Type>
     [[nodiscard]] Type& Get(std::string_view name) const
     {
@@ -85,7 +82,7 @@ private:
     bool hasKeyboardOrder_ = false;
 };
 
-/// The open window of this class, or null. A closed window no longer counts.
+/// The open window of this class, or null.
 Window* _GetImplicitWindow(std::string_view className);
 
 /// Takes ownership of a new window until it closes.
@@ -94,9 +91,8 @@ Window& KeepWindow(std::unique_ptr<Window> window);
 /// Applies a stored set of properties to a window.
 void _SetProperties(Window& window, WindowProperties const& properties);
 
-/// Registers what the window does when it is in front and the user chooses the item of this name.
+/// Registers the window's handler of a menu item; it is called while the window is in front.
 void _AddMenuHandler(Window& window, std::string_view item, std::function<bool()> handler);
 
-/// Registers what enables the window's menu items; called each time the menu bar is brought up to date while the
-/// window is in front.
+/// Registers what enables the window's menu items; called on each update of the menu bar while the window is in front.
 void _SetEnableMenuItems(Window& window, std::function<void()> handler);

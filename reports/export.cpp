@@ -5,7 +5,7 @@
 #include "frame/mainscreen.h"
 #include "platform/message_box.h"
 
-// The export writes the percentages of the entries, as the list shows them, one to a line.
+// The export writes the percentages of the entries, as the list shows them, one per line.
 
 bool mainscreen::_FileExport_Action()
 {

@@ -9,7 +9,7 @@
 #include <string>
 
 // The report: a heading, a summary and one line for each entry, in blocks of forty rows, two blocks to a
-// page. Places are in units of 1/72 inch from the top left corner of the paper, lines are placed by their base.
+// page. Coordinates are in units of 1/72 inch from the top left corner of the paper; a line's y is its baseline.
 
 namespace {
 

@@ -8,18 +8,18 @@ constexpr Double kTop = 100.0;
 
 } // namespace
 
-TextField& ScaleField(class mainscreen& window, std::size_t place)
+TextField& ScaleField(class mainscreen& window, std::size_t index)
 {
-    assert(place < bound::kCount);
-    Band const& band = kBands[place / 2];
-    return (window.*(IsMaximum(place) ? band.maximum : band.minimum))();
+    assert(index < bound::kCount);
+    Band const& band = kBands[index / 2];
+    return (window.*(IsMaximum(index) ? band.maximum : band.minimum))();
 }
 
 ScaleNumbers ReadScale(class mainscreen& window)
 {
     ScaleNumbers numbers{};
-    for (std::size_t place = 0; place < numbers.size(); ++place) {
-        numbers[place] = Val(ScaleField(window, place).Text());
+    for (std::size_t index = 0; index < numbers.size(); ++index) {
+        numbers[index] = Val(ScaleField(window, index).Text());
     }
     return numbers;
 }

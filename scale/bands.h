@@ -23,10 +23,9 @@ inline constexpr auto kBands = std::to_array<Band>({
 #include "frame/bands.def"
 });
 
-/// The places of the bounds in the scale: bound::aplusmax is 0, bound::aplusmin is 1 and so on. A band's
-/// maximum has an even place, its minimum the odd one after it.
+/// The index of each bound in the scale: bound::aplusmax is 0, bound::aplusmin is 1 and so on. Maxima are even.
 namespace bound {
-enum Place : std::size_t {
+enum Index : std::size_t {
 #define SCALE_FIELD(name, defaultValue) name,
 #include "frame/bands.def"
     kCount
@@ -35,19 +34,19 @@ enum Place : std::size_t {
 
 static_assert(bound::kCount == 2 * kBands.size());
 
-[[nodiscard]] constexpr bool IsMaximum(std::size_t place)
+[[nodiscard]] constexpr bool IsMaximum(std::size_t index)
 {
-    return place % 2 == 0;
+    return index % 2 == 0;
 }
 
-/// The number of each bound, by its place.
+/// The numbers in the fields, by the index of the bound.
 using ScaleNumbers = std::array<Double, bound::kCount>;
 
-/// The field of the bound at a place below bound::kCount.
-[[nodiscard]] TextField& ScaleField(class mainscreen& window, std::size_t place);
+/// The index must be below bound::kCount.
+[[nodiscard]] TextField& ScaleField(class mainscreen& window, std::size_t index);
 
 /// Reads all bounds with Val, so a text that is no number counts as 0.
 [[nodiscard]] ScaleNumbers ReadScale(class mainscreen& window);
 
-/// Sets aplusmax to 100 if it reads as anything else. Returns whether it did; nobody is notified.
+/// Sets aplusmax to 100 if it reads as anything else. Returns whether it did; shows no notice.
 bool ForceTopOfScale(class mainscreen& window);

@@ -10,12 +10,12 @@ constexpr auto kDefaults = std::to_array<int>({
 #include "frame/bands.def"
 });
 
-/// Whether the repair would find nothing to change in the default scale, and a save nothing to refuse.
+/// Whether the default scale needs no repair and can be saved.
 constexpr bool IsDefaultSound()
 {
-    for (std::size_t place = 1; place < kDefaults.size(); ++place) {
-        int const step = kDefaults[place - 1] - kDefaults[place];
-        if (IsMaximum(place) ? step != 1 : step < 0) {
+    for (std::size_t index = 1; index < kDefaults.size(); ++index) {
+        int const step = kDefaults[index - 1] - kDefaults[index];
+        if (IsMaximum(index) ? step != 1 : step < 0) {
             return false;
         }
     }

@@ -7,13 +7,13 @@
 #include <cassert>
 #include <string>
 
-// The guard keeps the scale from changing while there are entries: every key in a scale field asks first, and
-// after a No the first change is taken back to the text that the field had when it gained the focus. Besides,
-// the focus on a minimum checks the boundary above its band, which the teacher has just passed.
+// The guard keeps the scale from changing while there are entries: every key in a scale field asks first, and after a
+// No the first change is undone to the text that the field had when it gained the focus. A minimum that gains the focus
+// also checks the boundary above its band, which the teacher has just left.
 
 namespace {
 
-/// Makes a boundary that is not exactly one wide whole: its minimum is rounded, its maximum is one below.
+/// Repairs bounds that are not exactly one apart: the minimum is rounded, the maximum set one below it.
 void CheckBoundaryAbove(class mainscreen& window, std::size_t band)
 {
     assert(band > 0 && band < kBands.size());
@@ -32,10 +32,10 @@ void CheckBoundaryAbove(class mainscreen& window, std::size_t band)
            " and the maximum for " + std::string(lower.inNotice) + " must be equal to one.");
 }
 
-void HandleFocus(class mainscreen& window, TextField const& sender, std::size_t place)
+void HandleFocus(class mainscreen& window, TextField const& sender, std::size_t index)
 {
-    if (!IsMaximum(place) && place != bound::aplusmin) {
-        CheckBoundaryAbove(window, place / 2);
+    if (!IsMaximum(index) && index != bound::aplusmin) {
+        CheckBoundaryAbove(window, index / 2);
     }
     if (EntryCount(window) >= 1) {
         window.fileresetfield().Text(sender.Text());
@@ -68,8 +68,8 @@ void mainscreen::shouldreset()
     }
 }
 
-// The handlers of the scale fields: amin_KeyDown, amin_GotFocus, amin_TextChange and so on. A key always goes
-// on to its field: it is wanted after a Yes, and after a No its change is taken back.
+// The handlers of the scale fields: amin_KeyDown, amin_GotFocus, amin_TextChange and so on. A key always
+// reaches its field: after a Yes it is wanted, after a No its change is undone.
 #define SCALE_FIELD(name, defaultValue)                                                                      \
     bool mainscreen::name##_KeyDown(TextField& /*sender*/, std::string const& /*key*/)                       \
     {                                                                                                        \

@@ -10,7 +10,7 @@
 #include <array>
 #include <optional>
 
-// A scale file holds the texts of the scale fields as they are, one to a line, in the order of the scale. One
+// A scale file holds the texts of the scale fields as they are, one per line, in the order of the scale. One
 // such file, the Preferences, is the teacher's standing scale.
 
 namespace {
@@ -35,8 +35,8 @@ std::string ReadScaleFile(class mainscreen& window, FolderItem const& item)
     if (!stream->Fault().empty()) {
         return stream->Fault();
     }
-    for (std::size_t place = 0; place < lines.size(); ++place) {
-        ScaleField(window, place).Text(lines[place]);
+    for (std::size_t index = 0; index < lines.size(); ++index) {
+        ScaleField(window, index).Text(lines[index]);
     }
     return "";
 }
@@ -44,13 +44,13 @@ std::string ReadScaleFile(class mainscreen& window, FolderItem const& item)
 void WriteScaleFile(class mainscreen& window, FolderItem const& item)
 {
     TextOutputStream stream = item.CreateTextFile();
-    for (std::size_t place = 0; place < bound::kCount; ++place) {
-        stream.WriteLine(ScaleField(window, place).Text());
+    for (std::size_t index = 0; index < bound::kCount; ++index) {
+        stream.WriteLine(ScaleField(window, index).Text());
     }
     ReportUnlessSaved(item, stream.Close());
 }
 
-/// Repairs the scale and rounds its lowest minimum, also if the save is then refused. A save is refused when
+/// Repairs the scale and rounds its lowest minimum, even if the save is then refused. A save is refused when
 /// the scale ends below zero, and once after a repair, so that the teacher looks at the changes first.
 bool MaySave(class mainscreen& window)
 {

@@ -7,14 +7,14 @@
 
 namespace {
 
-constexpr Double kTopMinimum = 99.0; // where a minimum above the top goes
+constexpr Double kTopMinimum = 99.0; // replaces an A+ minimum above the top
 
 /// Whether a bound does not fit the one above it: a maximum must be exactly one below the minimum of the
 /// higher band, a minimum must not be above its own maximum.
-bool IsWrong(ScaleNumbers const& numbers, std::size_t place)
+bool IsWrong(ScaleNumbers const& numbers, std::size_t index)
 {
-    Double const above = numbers[place - 1];
-    return IsMaximum(place) ? above - numbers[place] != 1.0 : numbers[place] > above;
+    Double const above = numbers[index - 1];
+    return IsMaximum(index) ? above - numbers[index] != 1.0 : numbers[index] > above;
 }
 
 /// Moves each wrong bound below the one above it, in the field and in the numbers. Returns whether any was
@@ -23,11 +23,11 @@ bool Repair(class mainscreen& window, ScaleNumbers& numbers)
 {
     // aplusmin is compared with the maximum that was read, not with the 100 that replaces it.
     bool isRepaired = ForceTopOfScale(window);
-    for (std::size_t place = 1; place < numbers.size(); ++place) {
-        if (IsWrong(numbers, place)) {
-            bool const isTopBand = place == bound::aplusmin;
-            numbers[place] = isTopBand ? kTopMinimum : numbers[place - 1] - 1.0;
-            ScaleField(window, place).Text(Str(numbers[place]));
+    for (std::size_t index = 1; index < numbers.size(); ++index) {
+        if (IsWrong(numbers, index)) {
+            bool const isTopBand = index == bound::aplusmin;
+            numbers[index] = isTopBand ? kTopMinimum : numbers[index - 1] - 1.0;
+            ScaleField(window, index).Text(Str(numbers[index]));
             isRepaired = true;
         }
     }

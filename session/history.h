@@ -5,7 +5,7 @@
 
 #include <string>
 
-// The history of a session: five lists of the main window, with one row in each of them for every entry. ListBox1
+// The history of a session: five lists of the main window, each with one row per entry. ListBox1
 // shows the number and the percentage of the entry. The others are hidden: number missed (ListBox2) and letter
 // (ListBox4) of the entry, class average (ListBox3) and running sum (ListBox5) after it.
 

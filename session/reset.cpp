@@ -2,8 +2,8 @@
 #include "frame/form_state.h"
 #include "platform/message_box.h"
 
-/// Unlike the menu command the button also forgets the points of the last press, and it starts with the count:
-/// from then on nothing protects the number of points.
+/// Unlike the menu command the button also empties the points of the last press, and the count first: from then on the
+/// number of points is no longer protected.
 void mainscreen::BevelButton1_Action()
 {
     numstudents().Text("");
@@ -20,8 +20,8 @@ bool mainscreen::_FileReset_Action()
     return false;
 }
 
-/// All entries of a session are scored against the same number of points, so it goes back to what the last
-/// press of Grade found.
+/// All entries of a session are scored against the same number of points, so the field gets back its
+/// text at the last press of Grade.
 void mainscreen::total_TextChange(TextField& /*sender*/)
 {
     if (EntryCount(*this) < 1) {

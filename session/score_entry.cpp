@@ -47,8 +47,8 @@ bool CheckPoints(class mainscreen& window)
     return isPositive;
 }
 
-/// Repairs the scale and checks the points; returns whether the press goes on. A repair that the user agreed to
-/// runs even without points, one without a question does not.
+/// Repairs the scale and checks the points; returns whether the press goes on. A repair that the user
+/// agreed to runs even without points; without a question the points are checked first.
 bool PrepareScale(class mainscreen& window)
 {
     bool const wasInOrder = IsInOrder(ReadScale(window));
@@ -156,12 +156,12 @@ bool MakeEntry(class mainscreen& window)
 
 void mainscreen::PushButton1_Action()
 {
-    // Undo and a change of the points go by the last press, even by one that is refused.
+    // Undo and a change of the points rely on the last press, even on a refused one.
     pointstemp().Text(total().Text());
     problem().Text(EntryCount(*this) < 1 ? "1" : "");
 
     bool const isEntered = PrepareScale(*this) && MakeEntry(*this);
     if (!isEntered) {
-        EditUndo().IgnoreNextShortcut(); // there is nothing to undo of this press
+        EditUndo().IgnoreNextShortcut(); // this press left nothing to undo
     }
 }

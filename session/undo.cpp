@@ -39,8 +39,8 @@ std::string NumberOfStudents(Integer count)
 
 } // namespace
 
-/// The first entry has no earlier state to go back to, so it goes by clearing everything. The flag problem
-/// says that this is due.
+/// The first entry has no earlier state to go back to, so undoing it clears everything. The flag
+/// "problem" says when.
 bool mainscreen::_EditUndo_Action()
 {
     Integer entrycount = EntryCount(*this);

@@ -32,8 +32,8 @@ PushButtonWidget& ConnectAction(Control const& control, std::function<void()> co
 
 PushButton::PushButton(QWidget* parent, std::string const& name) : Control(new PushButtonWidget(parent), name)
 {
-    ConnectAction(*this, Action).mouseDown = [this](QPoint place) {
-        return Raise(MouseDown, *this, place.x(), place.y());
+    ConnectAction(*this, Action).mouseDown = [this](QPoint point) {
+        return Raise(MouseDown, *this, point.x(), point.y());
     };
 }
 

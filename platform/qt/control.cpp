@@ -29,12 +29,12 @@ void Control::Tooltip(std::string_view text)
 
 void Control::Apply(ControlProperties const& properties)
 {
-    QPoint place(properties.left, properties.top);
+    QPoint topLeft(properties.left, properties.top);
     for (QWidget* parent = widget_->parentWidget(); qobject_cast<QGroupBox*>(parent) != nullptr;
          parent = parent->parentWidget()) {
-        place -= parent->pos();
+        topLeft -= parent->pos();
     }
-    widget_->setGeometry(QRect(place, QSize(properties.width, properties.height)));
+    widget_->setGeometry(QRect(topLeft, QSize(properties.width, properties.height)));
     widget_->setEnabled(properties.style.enabled);
     widget_->setVisible(properties.style.visible);
     widget_->setAccessibleName(ToQt(properties.caption).simplified());

@@ -37,7 +37,7 @@ std::optional<std::string> ShowFileDialog(FileDialogRequest const& request)
         return std::nullopt;
     }
     QFileDialog dialog(TopLevel::front(), ToQt(request.title), ToQt(request.folder));
-    dialog.setOption(QFileDialog::DontUseNativeDialog, !HasFamiliarDialogs());
+    dialog.setOption(QFileDialog::DontUseNativeDialog, !HasNativeDialogs());
     dialog.setAcceptMode(request.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(request.saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     if (!request.prompt.empty()) {

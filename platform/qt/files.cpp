@@ -109,8 +109,8 @@ TextOutputStream FolderItem::CreateTextFile() const
 std::unique_ptr<TextInputStream> FolderItem::OpenAsTextFile(std::string& fault) const
 {
     QString const path = ToQt(path_);
-    QFileInfo const place(path);
-    if (place.exists() && !place.isFile()) { // opening a pipe or a device could block forever
+    QFileInfo const info(path);
+    if (info.exists() && !info.isFile()) { // opening a pipe or a device could block forever
         fault = "it is not a plain file";
         return nullptr;
     }
@@ -124,8 +124,8 @@ std::unique_ptr<TextInputStream> FolderItem::OpenAsTextFile(std::string& fault) 
 
 std::optional<FolderItem> GetFolderItem(std::string_view path, int /*mode*/)
 {
-    QFileInfo const place(ToQt(path));
-    if (place.isAbsolute()) {
+    QFileInfo const info(ToQt(path));
+    if (info.isAbsolute()) {
         return FolderItem(std::string(path));
     }
     QString const settings = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);

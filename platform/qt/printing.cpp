@@ -138,7 +138,7 @@ bool ShowPrintDialog(QPrinter& printer, std::string& fault)
         return false;
     }
     // Without a printer the system's own dialog does not come, and says nothing; the toolkit's offers a file.
-    if (HasFamiliarDialogs() && printer.outputFormat() != QPrinter::NativeFormat) {
+    if (HasNativeDialogs() && printer.outputFormat() != QPrinter::NativeFormat) {
         fault = "no printer is set up";
         return false;
     }

@@ -45,7 +45,7 @@ std::optional<int> AnswerCommandLine(int count, char const* const* arguments)
         if (argument == "-session") {
             continue;
         }
-        UseStartersConsole();
+        AttachToStartersConsole();
         if (argument == "--version") {
             std::cout << PROGRAM_NAME " " PROGRAM_VERSION "\n";
             return EXIT_SUCCESS;
@@ -125,7 +125,7 @@ void _InstallExceptionHelper(std::function<void(std::string_view reason)> helper
 
 void _UnhandledException(std::exception_ptr const& exception)
 {
-    UseStartersConsole();
+    AttachToStartersConsole();
     std::cerr << PROGRAM_NAME << ": " << ReasonOf(exception) << '\n';
     Runtime::instance().exitStatus = 1;
 }

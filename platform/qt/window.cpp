@@ -125,14 +125,14 @@ void Window::OrderKeyboard()
     for (auto const& control : controls_) {
         numbers[&control->Widget()] = control->TabIndex();
     }
-    auto const place = [&](Control const* control) {
+    auto const tabOrder = [&](Control const* control) {
         return isInside(control) ? std::pair(numbers[control->Widget().parentWidget()], control->TabIndex())
                                  : std::pair(control->TabIndex(), -1);
     };
     std::vector<Control*> order;
     std::ranges::transform(controls_, std::back_inserter(order),
                            [](auto const& control) { return control.get(); });
-    std::ranges::sort(order, {}, place);
+    std::ranges::sort(order, {}, tabOrder);
     for (std::size_t i = 1; i < order.size(); ++i) {
         QWidget::setTabOrder(&order[i - 1]->Widget(), &order[i]->Widget());
     }

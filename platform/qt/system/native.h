@@ -5,7 +5,8 @@
 #include <functional>
 #include <string_view>
 
-// What differs from one operating system to the next; the build chooses the file.
+// What needs calls of the operating system itself; the build chooses the file. Where only the toolkit differs from one
+// system to the next, the difference is dealt with on the spot.
 
 /// How a line of text ends.
 extern std::string_view const kLineEnd;
@@ -14,10 +15,10 @@ extern std::string_view const kLineEnd;
 /// none.
 QString FlushToDisk(int handle);
 
-/// Lets standard output and error appear on the console that started the program, on systems that detach programs
-/// with windows from it. Streams that lead to a file or a pipe stay as they are. Only for a program that is about to
+/// Connects standard output and error to the console that started the program, on systems that detach programs with
+/// windows from it. Streams that lead to a file or a pipe stay as they are. Only for a program that is about to
 /// end: Ctrl+C on that console, meant for another program there, ends this one too, and so does closing it.
-void UseStartersConsole();
+void AttachToStartersConsole();
 
 /// Calls back from the event loop when the system asks the program to end, and makes a file that grows past the
 /// user's limit a failed write instead of the program's death.

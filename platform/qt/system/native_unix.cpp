@@ -22,7 +22,7 @@ QString FlushToDisk(int handle)
     return {};
 }
 
-void UseStartersConsole() {} // the streams are connected from the start
+void AttachToStartersConsole() {} // the streams are connected from the start
 
 namespace {
 

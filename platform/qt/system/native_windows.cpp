@@ -26,7 +26,7 @@ QString FlushToDisk(int handle)
 /// There are no such signals here.
 void HandleSignals(std::function<void()> const& /*end*/) {}
 
-void UseStartersConsole()
+void AttachToStartersConsole()
 {
     // Asked first: once attached, both lead somewhere, but the C++ streams would not know.
     bool const needsOutput = LeadsNowhere(STD_OUTPUT_HANDLE);

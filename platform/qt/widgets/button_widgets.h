@@ -23,7 +23,7 @@ public:
 
     /// The left mouse button goes down here, also for the second time in a double click; true keeps the press
     /// from the button.
-    std::function<bool(QPoint place)> mouseDown;
+    std::function<bool(QPoint point)> mouseDown;
     std::function<bool()> hasAction; ///< without one each press of a double click counts
 
 protected:

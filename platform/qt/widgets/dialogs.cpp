@@ -24,7 +24,7 @@ bool IsDialogOpen()
     return QApplication::activeModalWidget() != nullptr;
 }
 
-bool HasFamiliarDialogs()
+bool HasNativeDialogs()
 {
     QString const platform = QGuiApplication::platformName();
     return platform == QLatin1String("cocoa") || platform == QLatin1String("windows");

@@ -12,4 +12,4 @@ bool IsDialogOpen();
 
 /// Whether the system has file and print dialogs of its own that users know, which are shown then. Elsewhere the
 /// toolkit's are shown: only its file dialogs show the prompt.
-bool HasFamiliarDialogs();
+bool HasNativeDialogs();
