@@ -12,7 +12,7 @@ class ListView;
 /// not shown consists of its rows alone; there, widths and the type of selection are ignored.
 class Listbox final : public Control {
 public:
-    Listbox(QWidget* parent, std::string const& name);
+    Listbox(QWidget* parent, std::string const& name, ControlProperties const& properties);
 
     /// How a cell's text is aligned.
     enum Alignment { Default = 0, Left = 1, Right = 3 };
@@ -42,6 +42,6 @@ public:
 private:
     void ShowLastRow();
 
-    ListModel* rows_;          ///< a child of the widget
-    ListView* view_ = nullptr; ///< the widget, once the list is shown
+    ListView* view_;  ///< the widget; null if the list is not shown
+    ListModel* rows_; ///< a child of the widget
 };
