@@ -193,10 +193,11 @@ private slots:
         QVERIFY((cell(1).data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight) != 0);
         QVERIFY((cell(2).data(Qt::TextAlignmentRole).toInt() & Qt::AlignLeft) != 0);
         QScrollBar const* const bar = list->verticalScrollBar();
+        QCoreApplication::processEvents(); // the list scrolls before it is painted
         QVERIFY(bar->maximum() == 20 * 16 - list->viewport()->height() && bar->value() == bar->maximum());
         QVERIFY(bar->singleStep() == 16 && bar->pageStep() == list->viewport()->height());
         session.play("EditUndo");
-        QCOMPARE(bar->value(), bar->maximum());
+        QVERIFY(bar->maximum() == 19 * 16 - list->viewport()->height() && bar->value() == bar->maximum());
         session.play("FileReset");
         QCOMPARE(bar->maximum(), 0);
     }

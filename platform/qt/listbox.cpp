@@ -32,10 +32,11 @@ void Listbox::Apply(ControlProperties const& properties)
     ApplyFont(properties, 0);
 }
 
+/// Scrolls after the current event but before the next paint, so that many new rows are laid out once.
 void Listbox::ShowLastRow()
 {
     if (view_ != nullptr) {
-        view_->scrollToBottom();
+        QMetaObject::invokeMethod(view_, &ListView::scrollToBottom, Qt::QueuedConnection);
     }
 }
 
