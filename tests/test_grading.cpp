@@ -184,8 +184,9 @@ private slots:
     void theListShowsNumbersPercentagesAndTheLastEntry()
     {
         TestSession const session;
-        session.play("total=30" + u"; missed=3 Return"_s.repeated(20));
         auto const* const list = session.widget<QTableView>("ListBox1");
+        QCOMPARE(list->model()->columnCount(), 2);
+        session.play("total=30" + u"; missed=3 Return"_s.repeated(20));
         auto const cell = [list](int column) { return list->model()->index(19, column); };
         QVERIFY(list->visualRect(cell(0)).width() == 20 && list->visualRect(cell(1)).width() == 65);
         QCOMPARE(list->visualRect(cell(2)).right(), list->viewport()->rect().right());
