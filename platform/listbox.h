@@ -8,8 +8,8 @@ class ListModel;
 class ListView;
 
 /// A list of rows with one or more columns of text. Rows and columns count from 0; a read outside the list
-/// returns an empty text, a write outside it is ignored. Appending costs the same at any length. A list that is
-/// not shown consists of its rows alone; there, widths and the type of selection are ignored.
+/// returns an empty text, a write outside it is ignored. A list that is not shown keeps its rows but has no view;
+/// it ignores widths and the type of selection.
 class Listbox final : public Control {
 public:
     Listbox(QWidget* parent, std::string const& name, ControlProperties const& properties);
@@ -17,9 +17,9 @@ public:
     /// How a cell's text is aligned.
     enum Alignment { Default = 0, Left = 1, Right = 3 };
 
-    /// Appends a row with this text in its first column, and brings it into sight.
+    /// Appends a row with this text in its first column, and scrolls to it.
     void AddRow(std::string_view text);
-    /// Removes one row; later rows move up, and the last one that remains comes into sight.
+    /// Removes one row and scrolls to the last one that remains. Later rows move up.
     void RemoveRow(std::int64_t row);
     void DeleteAllRows();
 
@@ -30,7 +30,7 @@ public:
     void CellAlignment(std::int64_t row, int column, Alignment alignment);
 
     void ColumnCount(int count);
-    /// Widths in pixels, separated by commas; columns without one share what is left.
+    /// Widths of the first columns in pixels, separated by commas; the others share what is left.
     void ColumnWidths(std::string_view widths);
     /// What assistive programs call the columns, separated by commas; nothing of it is shown.
     void SpokenHeaders(std::string_view headers);

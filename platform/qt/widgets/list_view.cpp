@@ -54,7 +54,7 @@ QRect ListView::rowRect(int row) const
 
 // --- painting
 
-/// Paints whole rows: a number that runs on into the next column is part of what that column shows.
+/// Paints whole rows, since a wide number runs on into the next column.
 void ListView::paintEvent(QPaintEvent* event)
 {
     QPainter painter(viewport());
@@ -65,7 +65,7 @@ void ListView::paintEvent(QPaintEvent* event)
     }
 }
 
-/// A number too wide for its column runs on into the free space of the next one, so that nothing is cut.
+/// Texts are not clipped: a wide number runs on into the free space of the next column.
 void ListView::drawRow(QPainter& painter, int row) const
 {
     bool const isSelected = selectionModel()->isRowSelected(row);
@@ -96,7 +96,7 @@ void ListView::keyPressEvent(QKeyEvent* event)
     }
 }
 
-/// On a small screen the list itself may be partly out of sight, and the row that a key leads to with it.
+/// On a small screen the window scrolls too, and the current row may be in a hidden part of the list.
 void ListView::scrollWindowToCurrentRow()
 {
     if (auto* const area = window()->findChild<QScrollArea*>()) {
@@ -109,22 +109,23 @@ void ListView::scrollWindowToCurrentRow()
 QModelIndex ListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
 {
     if (action == MoveNext) {
-        // A list that gains the focus asks for its first row. Made the current one in silence, it would never be
-        // spoken: the first key has to lead there.
+        // The list has gained the focus. It gets no current row yet, so that the first key selects the first row
+        // and a screen reader speaks it.
         return {};
     }
-    int const last = model()->rowCount() - 1;
-    QModelIndex const found =
-        action == MoveHome || action == MoveEnd
-            ? model()->index(action == MoveHome ? 0 : last, 0)
-            : QTableView::moveCursor(action, modifiers).siblingAtColumn(0); // each key chooses a whole row
-    if (found == currentIndex()) { // which may be scrolled out of sight
-        scrollTo(found);
+    QModelIndex found = QTableView::moveCursor(action, modifiers).siblingAtColumn(0);
+    if (action == MoveHome) {
+        found = model()->index(0, 0);
+    } else if (action == MoveEnd) {
+        found = model()->index(model()->rowCount() - 1, 0);
+    }
+    if (found == currentIndex()) {
+        scrollTo(found); // no change of the current row does it
     }
     return found;
 }
 
-/// In the form that a spreadsheet reads: cells separated by tabs, rows by line ends.
+/// Copies as a spreadsheet expects it: cells separated by tabs, rows by line ends, in the order of the list.
 void ListView::copySelectedRows() const
 {
     QModelIndexList selected = selectionModel()->selectedRows();

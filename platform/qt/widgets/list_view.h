@@ -8,7 +8,7 @@ class ListView final : public QTableView {
 public:
     explicit ListView(QWidget* parent);
 
-    /// Widths in pixels, separated by commas; columns without one share what is left.
+    /// Widths of the first columns in pixels, separated by commas; the others share what is left.
     void setColumnWidths(QString const& widths);
 
 protected:
