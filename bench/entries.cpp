@@ -60,6 +60,7 @@ void FillTo(Integer entries)
     class mainscreen& form = ::mainscreen();
     if (EntryCount(form) > entries) {
         DeleteHistory(form);
+        form.numstudents().Text("");
     }
     for (Integer entry = EntryCount(form) + 1; entry <= entries; ++entry) {
         form.numstudents().Text(Str(entry));

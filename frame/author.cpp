@@ -40,7 +40,7 @@ void Author::CreateControls()
 void Author::_CreateControls0()
 {
 #define CONTROL(tab, type, name, caption, left, top, width, height, style)                                   \
-    _SetProperties(Add<type>(#name), {tab, caption, left, top, width, height, form_style::style});
+    Add<type>(#name, {tab, caption, left, top, width, height, form_style::style});
 #include "frame/author.def"
 }
 

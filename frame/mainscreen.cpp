@@ -111,7 +111,7 @@ void mainscreen::CreateControls()
 
 // _CreateControls0 to _CreateControls3 create the rows of their sections.
 #define CREATE(tab, type, name, caption, left, top, width, height, style, parent)                            \
-    _SetProperties(Add<type>(#name, parent), {tab, caption, left, top, width, height, form_style::style});
+    Add<type>(#name, {tab, caption, left, top, width, height, form_style::style}, parent);
 #define SECTION(function)                                                                                    \
     void mainscreen::function()                                                                              \
     {

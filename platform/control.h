@@ -49,9 +49,6 @@ protected:
     /// Takes ownership of the widget.
     Control(QWidget* widget, std::string const& name);
 
-    /// Deletes the widget and takes ownership of another one, which gets its name.
-    void Replace(QWidget* widget);
-
     /// Sets the font that the properties ask for. A bold caption that is too wide for its place, less these
     /// margins in pixels, is condensed to fit.
     void ApplyFont(ControlProperties const& properties, int margins);

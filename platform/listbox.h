@@ -11,13 +11,13 @@ class ListView;
 /// Appending takes constant time. A hidden list ignores column widths and the selection type.
 class Listbox final : public Control {
 public:
-    Listbox(QWidget* parent, std::string const& name);
+    Listbox(QWidget* parent, std::string const& name, ControlProperties const& properties);
 
     enum Alignment { Default = 0, Left = 1, Right = 3 };
 
     /// Appends a row with this text in its first column, and scrolls to it.
     void AddRow(std::string_view text);
-    /// Later rows move up; scrolls to the last one.
+    /// Removes one row and scrolls to the last one that remains. Later rows move up.
     void RemoveRow(std::int64_t row);
     void DeleteAllRows();
 
@@ -28,7 +28,7 @@ public:
     void CellAlignment(std::int64_t row, int column, Alignment alignment);
 
     void ColumnCount(int count);
-    /// Pixels, separated by commas; columns without a width share the rest.
+    /// Widths of the first columns in pixels, separated by commas; the others share what is left.
     void ColumnWidths(std::string_view widths);
     /// Column names for assistive programs, separated by commas; not shown.
     void SpokenHeaders(std::string_view headers);
@@ -40,6 +40,6 @@ public:
 private:
     void ShowLastRow();
 
-    ListModel* rows_;          ///< a child of the widget
-    ListView* view_ = nullptr; ///< the widget, once the list is shown
+    ListView* view_;  ///< the widget; null if the list is not shown
+    ListModel* rows_; ///< a child of the widget
 };

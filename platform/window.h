@@ -49,14 +49,20 @@ public:
 protected:
     explicit Window(std::string className);
 
-    /// Creates a control and registers it under its name, on the window or inside another control.
+    /// Creates a control, registers it under its name, on the window or inside another control, and applies its
+    /// properties.
     template <class Type>
-    Type& Add(std::string const& name, Control* parent = nullptr)
+    void Add(std::string const& name, ControlProperties const& properties, Control* parent = nullptr)
     {
-        auto control = std::make_unique<Type>(ParentOf(parent), name);
-        Type& result = *control;
+        QWidget* const inside = ParentOf(parent);
+        std::unique_ptr<Type> control;
+        if constexpr (requires { Type(inside, name, properties); }) {
+            control = std::make_unique<Type>(inside, name, properties);
+        } else {
+            control = std::make_unique<Type>(inside, name);
+        }
+        _SetProperties(*control, properties);
         Register(name, std::move(control));
-        return result;
     }
 
     /// There must be a control of this name and type.

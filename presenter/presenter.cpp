@@ -57,7 +57,7 @@ void Window1::CreateControls()
 void Window1::_CreateControls0()
 {
 #define CONTROL(tab, type, name, caption, left, top, width, height, style)                                   \
-    _SetProperties(Add<type>(#name), {tab, caption, left, top, width, height, form_style::style});
+    Add<type>(#name, {tab, caption, left, top, width, height, form_style::style});
 #include "presenter/presenter.def"
 }
 

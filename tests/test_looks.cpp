@@ -3,6 +3,7 @@
 #include "tests/harness.h"
 
 #include <QFocusFrame>
+#include <QScreen>
 #include <QStyleFactory>
 
 #include <algorithm>
@@ -56,6 +57,14 @@ QImage PictureOf(QWidget& control)
     constexpr int kAround = 4; // pixels
     QRect const place(control.mapTo(control.window(), QPoint()), control.size());
     return control.window()->grab(place.adjusted(-kAround, -kAround, kAround, kAround)).toImage();
+}
+
+/// What the screen shows of a control, which does not draw itself anew for it.
+QImage ScreenOf(QWidget const& control)
+{
+    QCoreApplication::processEvents();
+    QRect const place(control.mapTo(control.window(), QPoint()), control.size());
+    return control.screen()->grabWindow(control.window()->winId()).toImage().copy(place);
 }
 
 /// Whether a control's text, if it has one, can be seen.
@@ -114,9 +123,9 @@ private slots:
         session.enterScores("30", {"3", "6", "9"});
         auto* const list = session.widget<QTableView>("ListBox1");
         auto const changedBy = [list](auto const& act) {
-            QImage const before = list->viewport()->grab().toImage();
+            QImage const before = ScreenOf(*list->viewport());
             act();
-            return Difference(before, list->viewport()->grab().toImage()).boundingRect();
+            return Difference(before, ScreenOf(*list->viewport())).boundingRect();
         };
         // The columns are 20 and 65 pixels wide, the rows 16 high.
         QRect const number = changedBy([&] { session.form().ListBox1().Cell(1, 1, ""); });
@@ -125,8 +134,23 @@ private slots:
         QVERIFY(QRect(85, 32, 20, 16).contains(percent) && percent.left() < 90);
         QRect const selected = changedBy([&] { session.play("focus ListBox1; key Down; key Down"); });
         QCOMPARE(selected, QRect(0, 16, list->viewport()->width(), 16));
-        QCOMPARE(list->viewport()->grab().toImage().pixelColor(50, 17),
-                 list->palette().color(QPalette::Highlight));
+        QCOMPARE(ScreenOf(*list->viewport()).pixelColor(50, 17), list->palette().color(QPalette::Highlight));
+        QRect const added = changedBy([&] { session.play("missed=12 Return"); });
+        QVERIFY(QRect(0, 48, 123, 16).contains(added));
+        QCOMPARE(changedBy([&] { session.play("EditUndo"); }), added);
+        // A number too wide for its column is not cut, in a selected row (the second one) neither.
+        for (int const row : {0, 1}) {
+            for (int const column : {0, 1, 2}) {
+                session.form().ListBox1().Cell(row, column, "");
+            }
+            QRect const inWideColumn = changedBy([&] { session.form().ListBox1().Cell(row, 2, "166"); });
+            QRect const inItsColumn = changedBy([&] {
+                session.form().ListBox1().Cell(row, 0, "166");
+                static_cast<void>(ScreenOf(*list->viewport()));
+                session.form().ListBox1().Cell(row, 1, ""); // this cell alone is painted anew
+            });
+            QCOMPARE(inItsColumn.size(), inWideColumn.size());
+        }
     }
 
     void boldCaptionsFitWithAnyFont()

@@ -202,6 +202,8 @@ private slots:
         session.type("EditField1", "73\n", "Window1");
         QVERIFY(session.text("ListBox1", "Window1").startsWith("0,100;-1,98.63014;"_L1)); // seven digits
         QVERIFY(session.text("ListBox2", "Window1").startsWith("-36,50.68493;-37,"_L1));
+        QModelIndex const last = session.widget<QTableView>("ListBox1", "Window1")->model()->index(35, 1);
+        QVERIFY((last.data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight) != 0);
         session.expectFields("ListBox5=-71,2.739726;-72,1.369863;-73,0 ListBox7=2;1;0", "Window1");
         session.expectBox("This feature of Gradeloom can only present 105 percentages.");
         session.type("EditField1", "106\n", "Window1");

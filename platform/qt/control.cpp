@@ -15,13 +15,6 @@ Control::Control(QWidget* widget, std::string const& name) : widget_(widget)
 
 Control::~Control() = default;
 
-void Control::Replace(QWidget* widget)
-{
-    widget->setObjectName(widget_->objectName());
-    InheritFormStyle(*widget);
-    widget_.reset(widget);
-}
-
 void Control::Tooltip(std::string_view text)
 {
     widget_->setToolTip(ToQt(text));

@@ -1,6 +1,7 @@
 #include "platform/listbox.h"
 
 #include "platform/qt/text.h"
+#include "platform/qt/widgets/list_model.h"
 #include "platform/qt/widgets/list_view.h"
 
 #include <limits>
@@ -14,26 +15,28 @@ int ToRow(std::int64_t row)
 
 } // namespace
 
-Listbox::Listbox(QWidget* parent, std::string const& name)
-    : Control(new QWidget(parent), name), rows_(new ListModel(&Widget()))
+/// Most of what a list costs is its view, so one that is not shown has none.
+Listbox::Listbox(QWidget* parent, std::string const& name, ControlProperties const& properties)
+    : Control(properties.style.visible ? new ListView(parent) : new QWidget(parent), name),
+      view_(dynamic_cast<ListView*>(&Widget())),
+      rows_(new ListModel(&Widget()))
 {
+    if (view_ != nullptr) {
+        view_->setModel(rows_);
+    }
 }
 
-/// Most of what a list costs is its view, so one that is never shown has none.
 void Listbox::Apply(ControlProperties const& properties)
 {
-    if (properties.style.visible && view_ == nullptr) {
-        view_ = new ListView(Widget().parentWidget(), rows_);
-        Replace(view_);
-    }
     Control::Apply(properties);
     ApplyFont(properties, 0);
 }
 
+/// Scrolls after the current event but before the next paint, so that many new rows are laid out once.
 void Listbox::ShowLastRow()
 {
     if (view_ != nullptr) {
-        view_->scrollToBottom();
+        QMetaObject::invokeMethod(view_, &ListView::scrollToBottom, Qt::QueuedConnection);
     }
 }
 

@@ -74,7 +74,7 @@ void ListModel::setColumns(int count)
 
 void ListModel::setText(int row, int column, std::string_view text)
 {
-    if (CellContent* const found = makeCell(row, column)) {
+    if (CellContent* const found = cellToWrite(row, column)) {
         found->text = text;
         emit dataChanged(index(row, column), index(row, column));
     }
@@ -82,13 +82,13 @@ void ListModel::setText(int row, int column, std::string_view text)
 
 void ListModel::setAlignment(int row, int column, Qt::Alignment alignment)
 {
-    if (CellContent* const found = makeCell(row, column)) {
+    if (CellContent* const found = cellToWrite(row, column)) {
         found->alignment = alignment | Qt::AlignVCenter;
         emit dataChanged(index(row, column), index(row, column));
     }
 }
 
-/// The cell at this place; null outside the list and in a row that is still shorter.
+/// Returns null outside the list, and for a cell that nothing was written to.
 ListModel::CellContent const* ListModel::cell(int row, int column) const
 {
     if (row < 0 || row >= rowCount() || column < 0) {
@@ -99,8 +99,8 @@ ListModel::CellContent const* ListModel::cell(int row, int column) const
     return at < cells.size() ? &cells[at] : nullptr;
 }
 
-/// The cell at this place, made if the row is still shorter; null outside the list.
-ListModel::CellContent* ListModel::makeCell(int row, int column)
+/// Creates the cell if it is missing; returns null outside the list.
+ListModel::CellContent* ListModel::cellToWrite(int row, int column)
 {
     if (row < 0 || row >= rowCount() || column < 0 || column >= columns_) {
         return nullptr;

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-/// The rows of a list, in UTF-8 as the program writes and reads them. Appending a row touches no other.
+/// The rows of a list. Texts are UTF-8, as the program writes and reads them.
 class ListModel final : public QAbstractTableModel {
 public:
     using QAbstractTableModel::QAbstractTableModel;
@@ -21,7 +21,7 @@ public:
     [[nodiscard]] QVariant data(QModelIndex const& index, int role) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-    /// Empty outside the list.
+    /// The text of a cell; empty outside the list.
     [[nodiscard]] std::string text(int row, int column) const;
     void append(std::string_view text);
     void remove(int row);
@@ -33,9 +33,9 @@ public:
 
 private:
     [[nodiscard]] CellContent const* cell(int row, int column) const;
-    CellContent* makeCell(int row, int column);
+    CellContent* cellToWrite(int row, int column);
 
     std::vector<std::vector<CellContent>> rows_;
-    QStringList headers_; ///< of the first columns
+    QStringList headers_; ///< later columns have none
     int columns_ = 1;
 };
