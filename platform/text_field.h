@@ -9,19 +9,21 @@ class TextField final : public Control {
 public:
     TextField(QWidget* parent, std::string const& name);
 
-    /// Before a key reaches the field: its text, or its name if it types none. Returns true to consume the key. Not
-    /// called for Tab, Return, menu shortcuts and modifier keys alone.
+    /// Raised before a key reaches the field, with the text that it types, or its name if it types none. Returns true
+    /// to consume it. Not raised for Tab, Return, menu shortcuts and modifier keys alone.
     std::function<bool(TextField&, std::string const& key)> KeyDown;
-    /// The focus moved here from another control of the window.
+    /// Raised when the window's focus moves here from another control, not when the window itself gets it back.
     std::function<void(TextField&)> GotFocus;
-    /// The user changed the text; writes by the program don't count.
+    /// Raised after the user has changed the text, not after a write by the program.
     std::function<void(TextField&)> TextChange;
 
     [[nodiscard]] std::string Text() const;
-    /// Replaces the whole text; the cursor is then at its end (in a read-only field at its start).
+    /// Replaces the whole text. In the editable field that has the focus it is then selected, so that typing replaces
+    /// it; when TextChange of the same field writes it, and in other fields, the cursor is at its end instead, in a
+    /// read-only field at its start.
     void Text(std::string_view text);
 
-    /// Limits what the user can enter, in any way; writes by the program are not cut.
+    /// Limits what a user can enter, in any way, to this many characters. Writes by the program are not cut.
     void MaximumCharactersAllowed(int count);
 
     void Apply(ControlProperties const& properties) override;
