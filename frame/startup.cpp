@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kFinal = 3; // the stage of a released version
 
-void ReportException(std::string_view reason)
+void ShowFault(std::string_view reason)
 {
     MsgBox("Gradeloom could not finish this step: " + std::string(reason) +
            ". The data you have entered so far has been kept.");
@@ -23,7 +23,7 @@ void ReportException(std::string_view reason)
 void _Main()
 {
     try {
-        _InstallExceptionHelper(ReportException);
+        _InstallExceptionHelper(ShowFault);
         _EarlyStartup();
         _RunFrameworkInitialization(_LateStartup);
         _RuntimeRun();

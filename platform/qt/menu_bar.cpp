@@ -3,7 +3,6 @@
 #include "platform/qt/system/runtime_object.h"
 #include "platform/qt/text.h"
 #include "platform/qt/widgets/line_edit.h"
-#include "platform/qt/widgets/menu_action.h"
 #include "platform/qt/widgets/program.h"
 #include "platform/qt/widgets/text_commands.h"
 #include "platform/qt/widgets/top_level.h"
@@ -29,7 +28,7 @@ QKeySequence ToKeys(std::string_view shortcut)
 } // namespace
 
 MenuItem::MenuItem(std::string_view name, std::string_view text, std::string_view shortcut)
-    : text_(text), action_(std::make_unique<MenuAction>())
+    : text_(text), action_(std::make_unique<QAction>())
 {
     action_->setObjectName(ToQt(name));
     bool const isSeparator = text == "-";
@@ -76,7 +75,7 @@ void MenuItem::Visible(bool visible)
 
 void MenuItem::IgnoreNextShortcut()
 {
-    action_->ignoreNextShortcut();
+    Program::instance().front.ignoreNextShortcut(*action_);
 }
 
 MenuItem& MenuItem::Append(std::unique_ptr<MenuItem> child)
@@ -109,7 +108,7 @@ void MenuItem::BuildMenu(MenuBar& bar)
         QObject::connect(menu_.get(), &QMenu::aboutToShow, menu_.get(), [&bar] { bar.Update(); });
     } else {
         QObject::connect(action_.get(), &QAction::triggered, action_.get(),
-                         [this] { Program::runCommand([this] { MenuBar::Choose(*this); }); });
+                         [this] { Program::instance().runCommand([this] { MenuBar::Choose(*this); }); });
     }
     for (auto const& child : children_) {
         child->BuildMenu(bar);
@@ -182,7 +181,7 @@ void MenuBar::ShowIn(TopLevel& window)
 
 void MenuBar::Update()
 {
-    TopLevel const* const front = TopLevel::front();
+    TopLevel const* const front = Program::instance().front.window();
     for (auto const& item : items_) {
         item->BringUpToDate(front);
     }
@@ -194,7 +193,7 @@ void MenuBar::Update()
 /// Carries out a command: here, or by the handler of the window in front.
 void MenuBar::Choose(MenuItem const& item)
 {
-    TopLevel* const front = TopLevel::front();
+    TopLevel* const front = Program::instance().front.window();
     if (dynamic_cast<QuitMenuItem const*>(&item) != nullptr) {
         Runtime::instance().end();
     } else if (TextCommand const* const command = FindTextCommand(item.Name())) {

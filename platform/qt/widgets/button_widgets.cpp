@@ -1,20 +1,9 @@
 #include "platform/qt/widgets/button_widgets.h"
 
 #include "platform/qt/widgets/field_keys.h"
-#include "platform/qt/widgets/held_keys.h"
 
 #include <QGuiApplication>
 #include <QStyleHints>
-
-namespace {
-
-/// Keys that are no press of the button: Return, which is the window's, and repeats.
-bool IsForOthers(QKeyEvent const& event)
-{
-    return IsReturn(event) || (event.key() == Qt::Key_Space && IsRepeat(event));
-}
-
-} // namespace
 
 CheckBoxWidget::CheckBoxWidget(QWidget* parent) : QCheckBox(parent)
 {
@@ -23,7 +12,7 @@ CheckBoxWidget::CheckBoxWidget(QWidget* parent) : QCheckBox(parent)
 
 void CheckBoxWidget::keyPressEvent(QKeyEvent* event)
 {
-    if (IsForOthers(*event)) {
+    if (IsReturn(*event)) {
         event->ignore();
     } else {
         QCheckBox::keyPressEvent(event);
@@ -37,7 +26,7 @@ PushButtonWidget::PushButtonWidget(QWidget* parent) : QPushButton(parent)
 
 void PushButtonWidget::keyPressEvent(QKeyEvent* event)
 {
-    if (IsForOthers(*event)) {
+    if (IsReturn(*event)) {
         event->ignore();
     } else {
         QPushButton::keyPressEvent(event);

@@ -12,7 +12,7 @@ public:
 
     /// Before a key, or a text that an input method commits, reaches the field; true consumes it.
     std::function<bool(QString const& key)> keyDown;
-    std::function<void()> gotFocus;  ///< called by FocusOrder
+    std::function<void()> gotFocus;  ///< called by GotFocusQueue
     std::function<void()> takeFocus; ///< moves the focus here, gotFocus included, for a drop and the like
 
     void writeByProgram(QString const& text);

@@ -1,13 +1,10 @@
 #include "platform/qt/widgets/top_level.h"
 
 #include "platform/qt/widgets/field_keys.h"
-#include "platform/qt/widgets/focus_order.h"
 #include "platform/qt/widgets/form_style.h"
-#include "platform/qt/widgets/held_keys.h"
 #include "platform/qt/widgets/line_edit.h"
-#include "platform/qt/widgets/menu_action.h"
+#include "platform/qt/widgets/program.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLayout>
@@ -20,12 +17,6 @@
 #include <QStyle>
 
 namespace {
-
-QPointer<TopLevel>& Front()
-{
-    static QPointer<TopLevel> front;
-    return front;
-}
 
 /// Scrolls a window's content by wheel, by Page Up and Page Down where the focused control has no use for them,
 /// and with the focus. It is no stop of the Tab key.
@@ -106,28 +97,16 @@ void TopLevel::noteFocus(QWidget* control)
     }
     focusFrame_->setWidget(control); // which makes it a child of the window, whose colours are the desktop's
     focusFrame_->setPalette(content_->palette());
-    MenuAction::endIgnoring();
+    Program::instance().front.heedShortcuts();
     if (auto* const field = dynamic_cast<LineEdit*>(control)) {
-        FocusOrder::instance().add(field, field->gotFocus);
+        Program::instance().gotFocus.add(field, field->gotFocus);
     }
     bringMenuBarUpToDate();
 }
 
-TopLevel* TopLevel::front()
-{
-    return Front();
-}
-
-void TopLevel::leaveFront()
-{
-    if (front() == this) {
-        Front() = nullptr;
-    }
-}
-
 void TopLevel::beginCommand()
 {
-    MenuAction::endIgnoring();
+    Program::instance().front.heedShortcuts();
     for (QLineEdit* const field : content_->findChildren<QLineEdit*>()) {
         static_cast<LineEdit*>(field)->endTyping();
     }
@@ -153,7 +132,7 @@ void TopLevel::addMenuKeys()
 bool TopLevel::event(QEvent* event)
 {
     if (event->type() == QEvent::WindowActivate) {
-        Front() = this;
+        Program::instance().front.enter(*this);
         bringMenuBarUpToDate();
     }
     return QMainWindow::event(event);
@@ -172,7 +151,7 @@ void TopLevel::keyPressEvent(QKeyEvent* event)
 {
     bool const isPlain = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
     if (IsReturn(*event) && isPlain) {
-        if (defaultButton != nullptr && !IsRepeat(*event)) {
+        if (defaultButton != nullptr && !event->isAutoRepeat()) {
             defaultButton->click();
         }
         return;
@@ -182,7 +161,7 @@ void TopLevel::keyPressEvent(QKeyEvent* event)
 
 void TopLevel::bringMenuBarUpToDate()
 {
-    if (updateMenuBar && front() == this) {
+    if (updateMenuBar && Program::instance().front.window() == this) {
         updateMenuBar();
     }
 }

@@ -1,6 +1,6 @@
 #include "platform/qt/widgets/tracked_line_edit.h"
 
-#include "platform/qt/widgets/menu_action.h"
+#include "platform/qt/widgets/program.h"
 
 #include <QRegularExpression>
 
@@ -51,7 +51,7 @@ void TrackedLineEdit::reportChange()
 {
     if (text() != lastText_) {
         lastText_ = text();
-        MenuAction::endIgnoring();
+        Program::instance().front.heedShortcuts();
         if (userChange) {
             userChange();
         }
