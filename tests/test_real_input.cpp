@@ -142,6 +142,26 @@ private slots:
         }
     }
 
+    void aMenuThatIsLeftGivesTheKeysBack()
+    {
+        TestSession const session;
+        session.play("total=40");
+        QWindow* const window = session.window()->windowHandle();
+        int entries = 0;
+        for (char const* const way :
+             {"Alt+E Esc", "F10 Right Esc", "F10 F10", "Alt", "9 Esc", "9 9", "9 300"}) {
+            session.play("write missed=9; focus total; focus missed"); // which selects it
+            for (QString const& act : (QLatin1String(way) + u" 3 Return"_s).split(u' ')) {
+                QPoint const place(act.toInt(), act.toInt()); // of a click: 9 is on a menu's title
+                QKeyCombination const key = QKeySequence(act)[0];
+                QTest::qSleep(2); // milliseconds: the repeats of a held key have none between
+                place.x() > 3 ? QTest::mouseClick(window, Qt::LeftButton, {}, place)
+                              : QTest::keyClick(window, key.key(), key.keyboardModifiers());
+            }
+            session.expectFields(u"numstudents=%1 lastmissed=3"_s.arg(++entries));
+        }
+    }
+
     void theContextMenuKeepsToTheRulesOfTheField()
     {
         TestSession const session;

@@ -3,12 +3,10 @@
 #include "platform/qt/system/runtime_object.h"
 #include "platform/qt/text.h"
 #include "platform/qt/widgets/line_edit.h"
+#include "platform/qt/widgets/menu_widgets.h"
 #include "platform/qt/widgets/program.h"
 #include "platform/qt/widgets/text_commands.h"
 #include "platform/qt/widgets/top_level.h"
-
-#include <QMenu>
-#include <QMenuBar>
 
 #include <algorithm>
 #include <cassert>
@@ -103,7 +101,7 @@ void MenuItem::BuildMenu(MenuBar& bar)
     bool const opens =
         std::ranges::any_of(children_, [](auto const& child) { return !child->Text().empty(); });
     if (opens) {
-        menu_ = std::make_unique<QMenu>(action_->text());
+        menu_ = std::make_unique<MenuWidget>(action_->text());
         action_->setMenu(menu_.get());
         QObject::connect(menu_.get(), &QMenu::aboutToShow, menu_.get(), [&bar] { bar.Update(); });
     } else {

@@ -3,13 +3,12 @@
 #include "platform/qt/widgets/field_keys.h"
 #include "platform/qt/widgets/form_style.h"
 #include "platform/qt/widgets/line_edit.h"
+#include "platform/qt/widgets/menu_widgets.h"
 #include "platform/qt/widgets/program.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLayout>
-#include <QMenu>
-#include <QMenuBar>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -52,6 +51,7 @@ void OpenMenu(QMenuBar& bar, QAction& title)
 
 TopLevel::TopLevel() : content_(new QWidget(this)), focusFrame_(new QFocusFrame(content_))
 {
+    setMenuBar(new MenuBarWidget(this));
     setCentralWidget(content_);
     focusFrame_->setStyle(&FormStyle());
     layout()->setSizeConstraint(QLayout::SetFixedSize);
@@ -115,15 +115,19 @@ void TopLevel::beginCommand()
 void TopLevel::addMenuKeys()
 {
 #ifndef Q_OS_MACOS // which opens menus in a way of its own
+    auto const add = [this](QString const& keys, QAction& title) {
+        auto* const shortcut =
+            new QShortcut(QKeySequence(keys), this, [this, &title] { OpenMenu(*menuBar(), title); });
+        shortcut->setAutoRepeat(false); // F10 closes its menu again
+    };
     QString first = QStringLiteral("F10");
     for (QAction* const title : menuBar()->actions()) {
         if (!title->isVisible() || title->menu() == nullptr) {
             continue;
         }
-        auto const open = [this, title] { OpenMenu(*menuBar(), *title); };
-        new QShortcut(QKeySequence(QStringLiteral("Alt+") + title->text().left(1)), this, open);
+        add(QStringLiteral("Alt+") + title->text().left(1), *title);
         if (!first.isEmpty()) {
-            new QShortcut(QKeySequence(std::exchange(first, QString())), this, open);
+            add(std::exchange(first, QString()), *title);
         }
     }
 #endif
