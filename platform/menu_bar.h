@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-class MenuAction;
 class MenuBar;
+class QAction;
 class QMenu;
 class TopLevel;
 
@@ -39,7 +39,7 @@ public:
     MenuItem& Append(std::unique_ptr<MenuItem> child);
 
 protected:
-    [[nodiscard]] MenuAction& Action() const { return *action_; }
+    [[nodiscard]] QAction& Action() const { return *action_; }
 
 private:
     friend class MenuBar;
@@ -49,7 +49,7 @@ private:
     [[nodiscard]] MenuItem* Find(std::string_view name);
 
     std::string text_;
-    std::unique_ptr<MenuAction> action_;
+    std::unique_ptr<QAction> action_;
     std::unique_ptr<QMenu> menu_; ///< null for a command
     std::vector<std::unique_ptr<MenuItem>> children_;
     bool visible_ = true;

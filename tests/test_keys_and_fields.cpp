@@ -83,7 +83,7 @@ Scenario const kUndone[] = {
     {"a clearing after a command goes first", "keys 25; PushButton2; focus total; focus missed; EditClear; key Ctrl+Z; "
      "key Ctrl+Z", {}, "missed=25 numstudents=1"},
     {"no typing from before a button", "keys 25; PushButton2; key Ctrl+Z", {}, "missed=25 numstudents=1"},
-    {"no entry at once after a refusal", "missed=45 Return; key Ctrl+Z", {{kTooManyMissed}}, "numstudents=2"},
+    {"no entry after a refusal", "missed=45 Return; key Ctrl+C; key Ctrl+Z", {{kTooManyMissed}}, "numstudents=2"},
     {"an entry by the second key", "missed=45 Return; key Ctrl+Z; key Ctrl+Z", {{kTooManyMissed}}, "numstudents=1"},
     {"an entry after new typing", "missed=45 Return; keys 5; key Ctrl+Z; key Ctrl+Z", {{kTooManyMissed}}, "numstudents=1"},
     {"no entry without points", "write total=0; missed= Return; key Ctrl+Z", {{kNeedsPoints}}, "numstudents=2"},

@@ -4,7 +4,7 @@
 #include "platform/file_dialogs.h"
 #include "platform/printing.h"
 #include "platform/qt/system/native.h"
-#include "platform/qt/widgets/top_level.h"
+#include "platform/qt/widgets/program.h"
 #include "platform/runtime.h"
 #include "presenter/presenter.h"
 #include "tests/harness.h"
@@ -224,7 +224,7 @@ private slots:
         QVERIFY(!session.window("Window1")->isMinimized());
         session.expectFields("EditField1=1 ListBox1=0,100;-1,0", "Window1");
         session.window("Window1")->close();
-        QVERIFY(session.window("Window1") == nullptr && TopLevel::front() == nullptr);
+        QVERIFY(session.window("Window1") == nullptr && Program::instance().front.window() == nullptr);
         QMetaObject::invokeMethod(file->menu(), "aboutToShow"); // with no window in front
         QVERIFY(!session.form().FileOpen().Enabled());
         session.activate();

@@ -2,7 +2,7 @@
 # What fingers, desktops and systems do otherwise than expected. Each visit makes the class that it needs, and ends
 # with the main window in front and the default scale.
 
-slips_of_hands=(held_keys double_clicks stray_keys layouts composed_text menu_keys pastes copied_rows
+slips_of_hands=(held_keys double_clicks stray_keys layouts composed_text menu_keys left_menus pastes copied_rows
     list_keys undo_after_slip)
 slips_of_desktops=(dialog_windows notice_at_start signals file_limit server_end)
 
@@ -206,6 +206,27 @@ visit_menu_keys() {
     type_text 5
     key super+7 alt+7 super+f Return
     expect_field lastmissed 5
+}
+
+# No digit and no Return ends in the menu bar.
+visit_left_menus() {
+    step "menus that are left"
+    local way papers=0
+    new_class
+    for way in "alt+e Escape" "F10 Right Escape" "F10 F10" Alt_L; do
+        # shellcheck disable=SC2086
+        key $way
+        enter 3
+        expect_papers $((++papers))
+        go_to missed
+    done
+    for way in "key Escape" "sleep 0.6 click 1" "mousemove --window $main 300 400 click 1"; do
+        # shellcheck disable=SC2086
+        xdotool mousemove --window "$main" 55 $((menu_bar / 2)) click 1 $way
+        enter 3
+        expect_papers $((++papers))
+        go_to missed
+    done
 }
 
 # --- the clipboard

@@ -4,6 +4,7 @@
 #include "platform/qt/system/runtime_object.h"
 #include "platform/qt/text.h"
 #include "platform/qt/widgets/dialogs.h"
+#include "platform/qt/widgets/program.h"
 #include "platform/qt/widgets/top_level.h"
 
 #include <QDir>
@@ -36,7 +37,7 @@ std::optional<std::string> ShowFileDialog(FileDialogRequest const& request)
     if (Runtime::instance().isEnding) {
         return std::nullopt;
     }
-    QFileDialog dialog(TopLevel::front(), ToQt(request.title), ToQt(request.folder));
+    QFileDialog dialog(Program::instance().front.window(), ToQt(request.title), ToQt(request.folder));
     dialog.setOption(QFileDialog::DontUseNativeDialog, !HasNativeDialogs());
     dialog.setAcceptMode(request.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(request.saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);

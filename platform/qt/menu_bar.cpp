@@ -4,13 +4,10 @@
 #include "platform/qt/text.h"
 #include "platform/qt/widgets/dialogs.h"
 #include "platform/qt/widgets/line_edit.h"
-#include "platform/qt/widgets/menu_action.h"
+#include "platform/qt/widgets/menu_widgets.h"
 #include "platform/qt/widgets/program.h"
 #include "platform/qt/widgets/text_commands.h"
 #include "platform/qt/widgets/top_level.h"
-
-#include <QMenu>
-#include <QMenuBar>
 
 #include <algorithm>
 #include <cassert>
@@ -30,7 +27,7 @@ QKeySequence ToKeys(std::string_view shortcut)
 } // namespace
 
 MenuItem::MenuItem(std::string_view name, std::string_view text, std::string_view shortcut)
-    : text_(text), action_(std::make_unique<MenuAction>())
+    : text_(text), action_(std::make_unique<QAction>())
 {
     action_->setObjectName(ToQt(name));
     bool const isSeparator = text == "-";
@@ -77,7 +74,7 @@ void MenuItem::Visible(bool visible)
 
 void MenuItem::IgnoreNextShortcut()
 {
-    action_->ignoreNextShortcut();
+    Program::instance().front.ignoreNextShortcut(*action_);
 }
 
 MenuItem& MenuItem::Append(std::unique_ptr<MenuItem> child)
@@ -105,7 +102,7 @@ void MenuItem::BuildMenu(MenuBar& bar)
     bool const opens =
         std::ranges::any_of(children_, [](auto const& child) { return !child->Text().empty(); });
     if (opens) {
-        menu_ = std::make_unique<QMenu>(action_->text());
+        menu_ = std::make_unique<MenuWidget>(action_->text());
         action_->setMenu(menu_.get());
         QObject::connect(menu_.get(), &QMenu::aboutToShow, menu_.get(), [this, &bar] {
             bar.Update();
@@ -115,7 +112,7 @@ void MenuItem::BuildMenu(MenuBar& bar)
         });
     } else {
         QObject::connect(action_.get(), &QAction::triggered, action_.get(),
-                         [this] { Program::runCommand([this] { MenuBar::Choose(*this); }); });
+                         [this] { Program::instance().runCommand([this] { MenuBar::Choose(*this); }); });
     }
     for (auto const& child : children_) {
         child->BuildMenu(bar);
@@ -188,7 +185,7 @@ void MenuBar::ShowIn(TopLevel& window)
 
 void MenuBar::Update()
 {
-    TopLevel const* const front = TopLevel::front();
+    TopLevel const* const front = Program::instance().front.window();
     for (auto const& item : items_) {
         item->BringUpToDate(front);
     }
@@ -203,7 +200,7 @@ void MenuBar::Choose(MenuItem const& item)
     if (IsDialogOpen()) {
         return;
     }
-    TopLevel* const front = TopLevel::front();
+    TopLevel* const front = Program::instance().front.window();
     if (dynamic_cast<QuitMenuItem const*>(&item) != nullptr) {
         Runtime::instance().end();
     } else if (TextCommand const* const command = FindTextCommand(item.Name())) {

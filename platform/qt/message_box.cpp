@@ -4,6 +4,7 @@
 #include "platform/qt/system/runtime_object.h"
 #include "platform/qt/text.h"
 #include "platform/qt/widgets/dialogs.h"
+#include "platform/qt/widgets/program.h"
 #include "platform/qt/widgets/quiet_box.h"
 #include "platform/qt/widgets/top_level.h"
 
@@ -25,7 +26,7 @@ int ShowMessageBox(MessageBoxRequest const& request)
     if (Runtime::instance().isEnding) {
         return kNo;
     }
-    QuietBox box(TopLevel::front());
+    QuietBox box(Program::instance().front.window());
     box.setTextFormat(Qt::PlainText);
     box.setText(ToQt(request.text));
     box.setWindowTitle(ToQt(request.title));

@@ -6,6 +6,7 @@
 #include "platform/qt/system/save_file.h"
 #include "platform/qt/text.h"
 #include "platform/qt/widgets/dialogs.h"
+#include "platform/qt/widgets/program.h"
 #include "platform/qt/widgets/top_level.h"
 
 #include <QBuffer>
@@ -142,7 +143,7 @@ bool ShowPrintDialog(QPrinter& printer, std::string& fault)
         fault = "no printer is set up";
         return false;
     }
-    QPrintDialog dialog(&printer, TopLevel::front());
+    QPrintDialog dialog(&printer, Program::instance().front.window());
     ProposeFile(dialog);
     return RunDialog(dialog) == QDialog::Accepted;
 }

@@ -9,10 +9,9 @@
 #include "platform/qt/system/native.h"
 #include "platform/qt/system/runtime_object.h"
 #include "platform/qt/widgets/accessible_field.h"
-#include "platform/qt/widgets/focus_order.h"
+#include "platform/qt/widgets/program.h"
 
 #include <QAccessible>
-#include <QApplication>
 #include <QIcon>
 #include <QStandardPaths>
 #include <QStyleHints>
@@ -22,21 +21,6 @@
 #include <optional>
 
 namespace {
-
-/// The desktop asks the program to end, at a log-out for one. Its windows are not asked whether they close.
-class QuitFilter final : public QObject {
-public:
-    using QObject::QObject;
-
-    bool eventFilter(QObject* /*receiver*/, QEvent* event) override
-    {
-        bool const isQuit = event->type() == QEvent::Quit;
-        if (isQuit) {
-            Runtime::instance().end();
-        }
-        return isQuit;
-    }
-};
 
 /// Returns the exit status if the program is only asked something, or something that it does not know.
 std::optional<int> AnswerCommandLine(int count, char const* const* arguments)
@@ -94,9 +78,9 @@ void RuntimePerformInitializers()
     QApplication::setQuitOnLastWindowClosed(false); // Window::Close ends the process, on every platform
     QApplication::styleHints()->setTabFocusBehavior(Qt::TabFocusAllControls);
     QAccessible::installFactory(MakeAccessibleField);
-    new FocusOrder(qApp);
-    qApp->installEventFilter(new QuitFilter(qApp));
-    HandleSignals([] { Runtime::instance().end(); });
+    auto const end = [] { Runtime::instance().end(); };
+    Program::instance().quitRequested = end;
+    HandleSignals(end);
     PlatformDoors() = {ShowMessageBox, OpenInBrowser, ShowFileDialog, ShowPrintDialog};
 }
 

@@ -2,9 +2,9 @@
 
 #include "platform/qt/guarded.h"
 #include "platform/qt/text.h"
-#include "platform/qt/widgets/focus_order.h"
 #include "platform/qt/widgets/form_palette.h"
 #include "platform/qt/widgets/line_edit.h"
+#include "platform/qt/widgets/program.h"
 #include "platform/qt/widgets/top_level.h"
 
 namespace {
@@ -20,7 +20,7 @@ void TakeFocus(LineEdit& field)
     field.setFocus(Qt::OtherFocusReason);
     if (auto* const top = dynamic_cast<TopLevel*>(field.window())) {
         top->noteFocus(&field);
-        FocusOrder::instance().deliver();
+        Program::instance().gotFocus.deliver();
     }
 }
 

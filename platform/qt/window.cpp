@@ -5,9 +5,8 @@
 #include "platform/qt/text.h"
 #include "platform/qt/widgets/form_palette.h"
 #include "platform/qt/widgets/form_style.h"
+#include "platform/qt/widgets/program.h"
 #include "platform/qt/widgets/top_level.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -75,7 +74,7 @@ void Window::Close()
         return;
     }
     topLevel_->hide();
-    topLevel_->leaveFront();
+    Program::instance().front.leave(*topLevel_);
     new ClosedWindow(std::move(found->second)); // deletes itself
     windows.erase(found);
     if (windows.empty()) {

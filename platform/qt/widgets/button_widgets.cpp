@@ -1,16 +1,9 @@
 #include "platform/qt/widgets/button_widgets.h"
 
 #include "platform/qt/widgets/dialogs.h"
-#include "platform/qt/widgets/field_keys.h"
-#include "platform/qt/widgets/held_keys.h"
 
 #include <QGuiApplication>
 #include <QStyleHints>
-
-bool IsLeftToWindow(QKeyEvent const& event)
-{
-    return IsReturn(event) || (event.key() == Qt::Key_Space && IsRepeat(event));
-}
 
 CheckBoxWidget::CheckBoxWidget(QWidget* parent) : FormButton(parent)
 {

@@ -1,16 +1,15 @@
 #pragma once
 
+#include "platform/qt/widgets/field_keys.h"
+
 #include <QCheckBox>
 #include <QMouseEvent>
 #include <QPushButton>
 
 #include <functional>
 
-/// Whether a button leaves this key to its window: Return, and Space that is only held down.
-bool IsLeftToWindow(QKeyEvent const& event);
-
 /// A button of the toolkit that leaves Return to its window, whatever the desktop's style makes of it. A click does not
-/// move the focus here, and holding Space presses it once.
+/// move the focus here.
 template <class ToolkitButton>
 class FormButton : public ToolkitButton {
 public:
@@ -19,7 +18,7 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override
     {
-        if (IsLeftToWindow(*event)) {
+        if (IsReturn(*event)) {
             event->ignore();
         } else {
             ToolkitButton::keyPressEvent(event);

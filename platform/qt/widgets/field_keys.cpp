@@ -28,7 +28,7 @@ bool IsAltKey(QKeyEvent const& event)
 
 /// The toolkit numbers the keys of its own from Escape on: first the usual ones, with the modifiers among them, then
 /// from the direction keys on switches of the layout, dead keys and media keys.
-bool IsKeyOfItsOwn(QKeyEvent const& event)
+bool IsKeyForField(QKeyEvent const& event)
 {
     switch (event.key()) {
     case Qt::Key_Shift:

@@ -15,8 +15,8 @@ bool IsKeyOfWindow(QKeyEvent const& event);
 /// A key with Alt or Super and without Ctrl, which opens menus and types nothing. On macOS Option types.
 bool IsAltKey(QKeyEvent const& event);
 
-/// A key that does something by itself: no modifier, switch of the keyboard layout, dead key or media key.
-bool IsKeyOfItsOwn(QKeyEvent const& event);
+/// A key that a field reports: no modifier, switch of the keyboard layout, dead key or media key.
+bool IsKeyForField(QKeyEvent const& event);
 
 /// A key that inserts its text into a field.
 bool TypesText(QKeyEvent const& event);

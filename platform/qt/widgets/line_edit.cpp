@@ -2,7 +2,6 @@
 
 #include "platform/qt/widgets/field_keys.h"
 #include "platform/qt/widgets/fitted_font.h"
-#include "platform/qt/widgets/held_keys.h"
 #include "platform/qt/widgets/menu_action.h"
 
 #include <QContextMenuEvent>
@@ -80,7 +79,7 @@ bool LineEdit::event(QEvent* event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
         auto* const key = static_cast<QKeyEvent*>(event);
-        QAction const* const action = MenuAction::of(*window(), *key);
+        QAction const* const action = MenuActionOf(*window(), *key);
         if (action != nullptr && action->isEnabled()) {
             // The only shortcut that the field takes from the menu: undoing what was just typed.
             event->setAccepted(key->matches(QKeySequence::Undo) && canUndoTyping());
@@ -117,7 +116,7 @@ void LineEdit::keyPressEvent(QKeyEvent* event)
         return;
     }
     QPointer<LineEdit> const field(this);
-    bool const raisesKeyDown = IsKeyOfItsOwn(*event) && MenuAction::of(*window(), *event) == nullptr;
+    bool const raisesKeyDown = IsKeyForField(*event) && MenuActionOf(*window(), *event) == nullptr;
     if ((raisesKeyDown && raiseKeyDown(KeyText(*event))) || field.isNull()) {
         return;
     }
@@ -136,7 +135,7 @@ bool LineEdit::raiseKeyDown(QString const& key)
 void LineEdit::typeKey(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Undo)) {
-        if (!IsRepeat(*event)) {
+        if (!event->isAutoRepeat()) {
             undoTyping();
         }
     } else if (event->matches(QKeySequence::Redo)) {

@@ -12,7 +12,7 @@ public:
 
     /// Called before a key, or a text that an input method commits, reaches the field; true consumes it.
     std::function<bool(QString const& key)> keyDown;
-    std::function<void()> gotFocus;  ///< called by FocusOrder
+    std::function<void()> gotFocus;  ///< called by GotFocusQueue
     std::function<void()> takeFocus; ///< moves the focus here and calls gotFocus at once
 
     /// Replaces the text. In the field that has the focus it is selected, so that typing replaces it.

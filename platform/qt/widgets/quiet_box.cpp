@@ -1,9 +1,8 @@
 #include "platform/qt/widgets/quiet_box.h"
 
-#include "platform/qt/widgets/held_keys.h"
+#include "platform/qt/widgets/program.h"
 
 #include <QAccessible>
-#include <QApplication>
 #include <QKeyEvent>
 
 namespace {
@@ -15,7 +14,7 @@ bool IsStray(QKeyEvent const& event)
 {
     bool const isPlain = !(event.modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier));
     bool const isText = !event.text().isEmpty() && event.text().at(0).isPrint();
-    return IsRepeat(event) || (isPlain && isText && event.key() != Qt::Key_Space);
+    return event.isAutoRepeat() || (isPlain && isText && event.key() != Qt::Key_Space);
 }
 
 } // namespace
@@ -63,9 +62,8 @@ bool QuietBox::eventFilter(QObject* /*receiver*/, QEvent* event)
 /// The time stamps count beside the timer: they show how fast the keys came when the program was late to look.
 bool QuietBox::takesKeys(QKeyEvent const& event)
 {
-    quint64 const before = LastPressTime();
-    NoteKey(event);
-    bool const isSoon = event.timestamp() != 0 && event.timestamp() - before < kQuietTime;
+    bool const isSoon =
+        event.timestamp() != 0 && Program::instance().keys.pauseBeforeLastPress() < kQuietTime;
     isOpen_ = isOpen_ || (!quiet_.isActive() && !isSoon);
     if (!isOpen_) {
         quiet_.start();

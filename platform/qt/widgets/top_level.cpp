@@ -1,18 +1,14 @@
 #include "platform/qt/widgets/top_level.h"
 
 #include "platform/qt/widgets/field_keys.h"
-#include "platform/qt/widgets/focus_order.h"
 #include "platform/qt/widgets/form_style.h"
-#include "platform/qt/widgets/held_keys.h"
 #include "platform/qt/widgets/line_edit.h"
-#include "platform/qt/widgets/menu_action.h"
+#include "platform/qt/widgets/menu_widgets.h"
+#include "platform/qt/widgets/program.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLayout>
-#include <QMenu>
-#include <QMenuBar>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -20,12 +16,6 @@
 #include <QStyle>
 
 namespace {
-
-QPointer<TopLevel>& Front()
-{
-    static QPointer<TopLevel> front;
-    return front;
-}
 
 /// Scrolls a window's content by wheel, by Page Up and Page Down where the focused control has no use for them,
 /// and with the focus. It is no stop of the Tab key.
@@ -61,6 +51,7 @@ void OpenMenu(QMenuBar& bar, QAction& title)
 
 TopLevel::TopLevel() : content_(new QWidget(this)), focusFrame_(new QFocusFrame(content_))
 {
+    setMenuBar(new MenuBarWidget(this));
     setCentralWidget(content_);
     focusFrame_->setStyle(&FormStyle());
     layout()->setSizeConstraint(QLayout::SetFixedSize);
@@ -106,29 +97,17 @@ void TopLevel::noteFocus(QWidget* control)
     }
     focusFrame_->setWidget(control); // which makes it a child of the window, whose colours are the desktop's
     focusFrame_->setPalette(content_->palette());
-    MenuAction::endIgnoring();
+    Program::instance().front.heedShortcuts();
     if (auto* const field = dynamic_cast<LineEdit*>(control)) {
         field->enter();
-        FocusOrder::instance().add(field, field->gotFocus);
+        Program::instance().gotFocus.add(field, field->gotFocus);
     }
     bringMenuBarUpToDate();
 }
 
-TopLevel* TopLevel::front()
-{
-    return Front();
-}
-
-void TopLevel::leaveFront()
-{
-    if (front() == this) {
-        Front() = nullptr;
-    }
-}
-
 void TopLevel::beginCommand()
 {
-    MenuAction::endIgnoring();
+    Program::instance().front.heedShortcuts();
     for (QLineEdit* const field : content_->findChildren<QLineEdit*>()) {
         static_cast<LineEdit*>(field)->sealUndoHistory();
     }
@@ -137,15 +116,19 @@ void TopLevel::beginCommand()
 void TopLevel::addMenuKeys()
 {
 #ifndef Q_OS_MACOS // which opens menus in a way of its own
+    auto const add = [this](QString const& keys, QAction& title) {
+        auto* const shortcut =
+            new QShortcut(QKeySequence(keys), this, [this, &title] { OpenMenu(*menuBar(), title); });
+        shortcut->setAutoRepeat(false); // F10 closes its menu again
+    };
     QString first = QStringLiteral("F10");
     for (QAction* const title : menuBar()->actions()) {
         if (!title->isVisible() || title->menu() == nullptr) {
             continue;
         }
-        auto const open = [this, title] { OpenMenu(*menuBar(), *title); };
-        new QShortcut(QKeySequence(QStringLiteral("Alt+") + title->text().left(1)), this, open);
+        add(QStringLiteral("Alt+") + title->text().left(1), *title);
         if (!first.isEmpty()) {
-            new QShortcut(QKeySequence(std::exchange(first, QString())), this, open);
+            add(std::exchange(first, QString()), *title);
         }
     }
 #endif
@@ -154,7 +137,7 @@ void TopLevel::addMenuKeys()
 bool TopLevel::event(QEvent* event)
 {
     if (event->type() == QEvent::WindowActivate) {
-        Front() = this;
+        Program::instance().front.enter(*this);
         bringMenuBarUpToDate();
     }
     return QMainWindow::event(event);
@@ -173,7 +156,7 @@ void TopLevel::keyPressEvent(QKeyEvent* event)
 {
     bool const isPlain = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
     if (IsReturn(*event) && isPlain) {
-        if (defaultButton != nullptr && !IsRepeat(*event)) {
+        if (defaultButton != nullptr && !event->isAutoRepeat()) {
             defaultButton->click();
         }
         return;
@@ -183,7 +166,7 @@ void TopLevel::keyPressEvent(QKeyEvent* event)
 
 void TopLevel::bringMenuBarUpToDate()
 {
-    if (updateMenuBar && front() == this) {
+    if (updateMenuBar && Program::instance().front.window() == this) {
         updateMenuBar();
     }
 }

@@ -32,11 +32,6 @@ public:
     /// The window's focus is now here. The same control again is no news.
     void noteFocus(QWidget* control);
 
-    /// The window that is or last was active; null if there is none.
-    static TopLevel* front();
-    /// The window has closed; until another one becomes active there is none in front.
-    void leaveFront();
-
     /// A button or menu command begins: typing from before it can no longer be undone.
     void beginCommand();
     /// Opens the menus with Alt and the first letter of their titles, and the first one with F10.

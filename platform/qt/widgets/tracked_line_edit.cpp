@@ -1,7 +1,7 @@
 #include "platform/qt/widgets/tracked_line_edit.h"
 
 #include "platform/qt/widgets/dialogs.h"
-#include "platform/qt/widgets/menu_action.h"
+#include "platform/qt/widgets/program.h"
 
 #include <QRegularExpression>
 
@@ -57,7 +57,7 @@ void TrackedLineEdit::reportChange()
 {
     if (text() != lastText_) {
         lastText_ = text();
-        MenuAction::endIgnoring();
+        Program::instance().front.heedShortcuts();
         QPointer<TrackedLineEdit> const field(this);
         isReporting_ = true;
         if (userChange) {

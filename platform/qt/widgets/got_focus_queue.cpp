@@ -1,15 +1,9 @@
-#include "platform/qt/widgets/focus_order.h"
+#include "platform/qt/widgets/got_focus_queue.h"
 
-#include "platform/qt/widgets/held_keys.h"
-
+#include <QCoreApplication>
 #include <QKeyEvent>
-#include <QWidget>
-
-#include <cassert>
 
 namespace {
-
-FocusOrder* current = nullptr;
 
 bool MovesFocus(QKeyEvent const& event)
 {
@@ -18,30 +12,13 @@ bool MovesFocus(QKeyEvent const& event)
 
 } // namespace
 
-FocusOrder::FocusOrder(QObject* application) : QObject(application)
-{
-    current = this;
-    application->installEventFilter(this);
-}
-
-FocusOrder::~FocusOrder()
-{
-    current = nullptr;
-}
-
-FocusOrder& FocusOrder::instance()
-{
-    assert(current != nullptr);
-    return *current;
-}
-
-void FocusOrder::add(QWidget* field, std::function<void()> const& gotFocus)
+void GotFocusQueue::add(QWidget* field, std::function<void()> const& gotFocus)
 {
     pending_.push_back({field, gotFocus});
-    QMetaObject::invokeMethod(this, &FocusOrder::deliver, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(qApp, [this] { deliver(); }, Qt::QueuedConnection);
 }
 
-void FocusOrder::deliver()
+void GotFocusQueue::deliver()
 {
     if (isDelivering_) { // a handler's message box is open
         return;
@@ -60,16 +37,12 @@ void FocusOrder::deliver()
 /// A key that moves the focus on goes first, since a box in front of it would keep the next field from selecting
 /// its text. A mouse press is seen when it reaches its window: once it reaches a field, that field has the focus
 /// already, and the press must be complete before its GotFocus.
-bool FocusOrder::eventFilter(QObject* receiver, QEvent* event)
+void GotFocusQueue::deliverBefore(QObject const& receiver, QEvent const& event)
 {
-    switch (event->type()) {
-    case QEvent::KeyRelease:
-        NoteKey(*static_cast<QKeyEvent*>(event));
-        break;
+    switch (event.type()) {
     case QEvent::ShortcutOverride:
     case QEvent::KeyPress:
-        NoteKey(*static_cast<QKeyEvent*>(event));
-        if (!MovesFocus(*static_cast<QKeyEvent*>(event))) {
+        if (!MovesFocus(static_cast<QKeyEvent const&>(event))) {
             deliver();
         }
         break;
@@ -79,12 +52,11 @@ bool FocusOrder::eventFilter(QObject* receiver, QEvent* event)
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
     case QEvent::MouseButtonDblClick:
-        if (receiver->isWindowType()) {
+        if (receiver.isWindowType()) {
             deliver();
         }
         break;
     default:
         break;
     }
-    return false;
 }
