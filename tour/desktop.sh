@@ -1,10 +1,10 @@
-# shellcheck shell=bash disable=SC2034,SC2154
+# shellcheck shell=bash
 # A desktop of the tour's own: a display, a window manager, and an empty home that is deleted at the end.
 
-declare -A started=() # the numbers of the processes that run, by what they are
-part_start=0 # the second in which this part of the tour began
+declare program theme now front # set by its caller and by tour/hands.sh
+declare -A started=()           # process numbers by what runs
+part_start=0                    # the second in which this part of the tour began
 home=
-preferences= # the scale file that is read at the start
 
 step() {
     now="$theme: $*"
@@ -22,6 +22,14 @@ nothing_ended() {
     for ended in "${!started[@]}"; do
         kill -0 "${started[$ended]}" 2>/dev/null || return 1
     done
+}
+
+same() { # WHAT EXPECTED SEEN
+    [[ $2 == "$3" ]] || fail "$1: expected \"$2\", saw \"$3\""
+}
+
+same_lines() { # WHAT EXPECTED SEEN
+    diff <(echo "$2") <(echo "$3") >&2 || fail "$1 differ: < is expected, > was seen"
 }
 
 # await WHAT CONDITION...: waits for a condition and never for a time; one that does not come is a failure.
@@ -62,17 +70,23 @@ on_desktop() {
 
 make_home() {
     home=$(mktemp -d)
+    # shellcheck disable=SC2034 # the visits read it
     preferences=$home/.config/gradeloom/Preferences
     mkdir -p "$home"/{tmp,run,.config,.cache,.local/share,.local/state}
     chmod 700 "$home/run"
+    local kde=(XDG_CURRENT_DESKTOP=KDE KDE_SESSION_VERSION=5 KDE_FULL_SESSION=true)
     theme_settings=(XDG_CURRENT_DESKTOP=none)
     screen=1280x1024
     case $theme in
         dark)
-            theme_settings=(XDG_CURRENT_DESKTOP=KDE KDE_SESSION_VERSION=5 KDE_FULL_SESSION=true)
+            theme_settings=("${kde[@]}")
             cp tour/dark-colours "$home/.config/kdeglobals"
             ;;
         small) screen=1024x600 ;;
+        large)
+            theme_settings=("${kde[@]}")
+            printf '[General]\nfont=DejaVu Sans,20,-1,5,50,0,0,0,0,0\n' >"$home/.config/kdeglobals"
+            ;;
         adwaita* | breeze) theme_settings+=(QT_STYLE_OVERRIDE="$theme") ;;
         gtk3 | gnome) theme_settings+=(QT_QPA_PLATFORMTHEME="$theme") ;;
     esac
@@ -131,6 +145,7 @@ start_program() {
 
 await_form() {
     await "the window Gradeloom X" window_in_front "Gradeloom X"
+    # shellcheck disable=SC2034 # tour/hands.sh and the visits read it
     main=$front
     measure_menu_bar
 }

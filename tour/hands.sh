@@ -1,22 +1,37 @@
-# shellcheck shell=bash disable=SC2034,SC2154
-# A teacher's hands and eyes: keys, clicks, and what can be read off the windows.
+# shellcheck shell=bash
+# A teacher's hands and eyes: keys, clicks, and what can be read off the windows. Wants tour/desktop.sh.
 
-# The fields and buttons of the main window in the order in which Tab visits them.
-tab_order=(total missed correct Grade percentage lettergrade lastmissed aplusmax aplusmin SaveScale amax amin
-    aminusmax aminusmin bplusmax bplusmin bmax bmin bminusmax bminusmin cplusmax cplusmin cmax cmin cminusmax
-    cminusmin dplusmax dplusmin dmax dmin dminusmax dminusmin Default checkcorrect agrade bgrade cgrade dgrade
-    fgrade ListBox1 numstudents EditField1 SaveSettings)
+declare theme main # set by its caller and by tour/desktop.sh
+declare -A started
 
-scale_fields=(aplusmax aplusmin amax amin aminusmax aminusmin bplusmax bplusmin bmax bmin bminusmax bminusmin
-    cplusmax cplusmin cmax cmin cminusmax cminusmin dplusmax dplusmin dmax dmin dminusmax dminusmin)
+# --- the form, as its table states it
 
-same() { # WHAT EXPECTED SEEN
-    [[ $2 == "$3" ]] || fail "$1: expected \"$2\", saw \"$3\""
+declare -A middle=() # of each control of the main window: "X Y"
+tab_order=() # the fields and buttons as Tab visits them
+scale_fields=()
+
+read_form() {
+    local name x y kind
+    while read -r name x y kind; do
+        middle[$name]="$x $y"
+        [[ $kind == other ]] || tab_order+=("$name")
+        [[ $kind != bound ]] || scale_fields+=("$name")
+    done < <(awk -F, '
+        !/^(CONTROL|CHILD|BAND_ROW)\(/ { next }
+        function print_row(name, left, top, width, height, kind) {
+            print name, int(left + width / 2), int(top + height / 2), kind
+        }
+        { gsub(/"[^"]*"|[ )]/, "") }
+        /^BAND_ROW/ { print_row($2, $3, $4, $5, $6, "bound"); print_row($7, $8, $9, $10, $11, "bound") }
+        !/^BAND_ROW/ {
+            is_stop = $2 ~ /^(TextField|PushButton|CheckBox|Listbox)$/ && $9 !~ /^hidden/
+            print_row($3, $5, $6, $7, $8, is_stop ? "stop" : "other")
+        }' frame/mainscreen.def)
 }
 
-same_lines() { # WHAT EXPECTED SEEN
-    diff <(echo "$2") <(echo "$3") >&2 || fail "$1 differ: < is expected, > was seen"
-}
+read_form
+
+# --- keys
 
 # A repeat that the server makes while a key is held has the time stamp of the release before it. So each key goes
 # down some milliseconds after the last one went up: no hand is faster.
@@ -103,25 +118,35 @@ mouse_at() { # X Y WHAT...
     xdotool mousemove --window "$main" "$1" $((menu_bar + $2)) "${@:3}"
 }
 
-click() { mouse_at "$1" "$2" click 1; }
+# shellcheck disable=SC2086 # two numbers
+click() { mouse_at ${middle[$1]} click 1; } # CONTROL
 
-click_total() { click 170 17 && at=0; }
-click_missed() { click 169 48; }
-click_correct() { click 169 81; }
-click_number_correct() { click 20 121; }
-click_save_scale() { click 596 295; }
-click_save_settings() { click 596 370; }
+click_total() { click total; }
+click_save_settings() { click PushButton4; }
 
 windows_shown() { xdotool search --onlyvisible --pid "${started[program]}" 2>/dev/null | wc -l; }
 
 more_windows_than() { (($(windows_shown) > $1)); }
 
+windows_are() { (($(windows_shown) == $1)); }
+
+# A menu, and whatever else opens and closes without coming to the front.
+opens() { # WHAT COMMAND...
+    before=$(windows_shown)
+    "${@:2}"
+    await "$1" more_windows_than "$before"
+}
+
+closes() { # WHAT COMMAND...
+    "${@:2}"
+    await "the end of $1" windows_are "$before"
+}
+
+click_edit() { mouse_at 55 $((-menu_bar / 2)) click 1; }
+
 # Opens the Edit menu by mouse and goes on by keys: Down is its first command, Up its last.
 edit_menu() { # KEY
-    local before
-    before=$(windows_shown)
-    xdotool mousemove --window "$main" 55 $((menu_bar / 2)) click 1
-    await "the Edit menu" more_windows_than "$before"
+    opens "the Edit menu" click_edit
     key "$1" Return
 }
 
@@ -134,14 +159,16 @@ index_of() { # NAME
     fail "no field is called $1"
 }
 
-# Moves the focus with Tab from where it is, or from the first field.
+# Moves the focus with Tab, which selects a field's text, from the first field.
 go_to() { # NAME
     index_of "$1"
-    ((at >= 0 && at <= index)) || click_total
+    click_total
     local tabs=()
-    for (( ; at < index; ++at)); do tabs+=(Tab); done
+    for (( ; index > 0; --index)); do tabs+=(Tab); done
     ((${#tabs[@]} == 0)) || key "${tabs[@]}"
 }
+
+marks=0
 
 clipboard() { timeout 5 xclip -selection clipboard -o 2>/dev/null; }
 clipboard_is() { [[ $(clipboard) == "$1" ]]; }
@@ -156,22 +183,36 @@ mark_clipboard() {
     await "the mark on the clipboard" clipboard_is "$mark"
 }
 
-expect_field() { # NAME TEXT
-    go_to "$1"
+# Copies what is selected.
+expect_copy() { # WHAT EXPECTED
     mark_clipboard
     key ctrl+c
-    await "the text of $1 on the clipboard" clipboard_is_not "$mark"
+    await "$1 on the clipboard" clipboard_is_not "$mark"
     same "$1" "$2" "$(clipboard)"
+}
+
+expect_field() { # NAME TEXT
+    go_to "$1"
+    [[ $1 != total ]] || key ctrl+a
+    expect_copy "$1" "$2"
 }
 
 expect_scale() { # 24 numbers
     local field
-    at=-1
     for field in "${scale_fields[@]}"; do
         expect_field "$field" "$1"
         shift
     done
 }
+
+# Reads a result by mouse: the way there by Tab is long. An empty one gives nothing to copy.
+expect_result() { # NAME TEXT
+    click "$1"
+    key ctrl+a
+    expect_copy "$1" "$2"
+}
+
+expect_papers() { expect_result numstudents "$1"; } # COUNT
 
 # --- pictures
 
