@@ -221,7 +221,7 @@ visit_number_correct() {
     click checkcorrect
     click correct
     enter 38
-    expect_result percentage 95
+    expect_field percentage 95
     holds primary "a selection" || fail "the click took the selection from another program"
     new_class
     click checkcorrect
@@ -294,10 +294,10 @@ visit_list_keys() {
         { key ${keys//,/ } && expect_rows "$keys" $rows; }
     done <<<"Down 1
              Down 2
+             Home 1
              End 6
              shift+Up 5 6
-             shift+Home 1 2 3 4 5 6
-             Home 1"
+             shift+Home 1 2 3 4 5 6"
 }
 
 at_row() { mouse_at 575 $((21 + 16 * $1)) "${@:2}"; } # ROW WHAT...
