@@ -46,7 +46,7 @@ await() {
 
 leave_desktop() {
     local process
-    for process in program "bell watch" "window manager" keyboard mouse display "second program" "second display" "message bus"; do
+    for process in program "window manager" keyboard mouse display "message bus"; do
         [[ -n ${started[$process]:-} ]] || continue
         kill "${started[$process]}" 2>/dev/null || true
         wait "${started[$process]}" 2>/dev/null || true
@@ -70,19 +70,17 @@ on_desktop() {
 
 make_home() {
     home=$(mktemp -d)
-    # shellcheck disable=SC2034 # the visits read it
+    # shellcheck disable=SC2034 # only some of the visits read it
     preferences=$home/.config/gradeloom/Preferences
     mkdir -p "$home"/{tmp,run,.config,.cache,.local/share,.local/state}
     chmod 700 "$home/run"
     local kde=(XDG_CURRENT_DESKTOP=KDE KDE_SESSION_VERSION=5 KDE_FULL_SESSION=true)
     theme_settings=(XDG_CURRENT_DESKTOP=none)
-    screen=1280x1024
     case $theme in
         dark)
             theme_settings=("${kde[@]}")
             cp tour/dark-colours "$home/.config/kdeglobals"
             ;;
-        small) screen=1024x600 ;;
         large)
             theme_settings=("${kde[@]}")
             printf '[General]\nfont=DejaVu Sans,20,-1,5,50,0,0,0,0,0\n' >"$home/.config/kdeglobals"
@@ -91,6 +89,8 @@ make_home() {
         gtk3 | gnome) theme_settings+=(QT_QPA_PLATFORMTHEME="$theme") ;;
     esac
 }
+
+screen_size() { if [[ $theme == small ]]; then echo 1024x600; else echo 1280x1024; fi; }
 
 # Whether a desktop's style is installed; that of the toolkit's own always is.
 has_style() { # THEME
@@ -121,7 +121,7 @@ start_bus() {
 # Without -noreset the server starts anew when its last client leaves, and that can be the one that only looks
 # whether the window manager is there yet.
 start_display() {
-    Xvfb -displayfd 3 -noreset -screen 0 "${screen}x24" -nolisten tcp 3>"$home/display" >build/tour/display.log 2>&1 &
+    Xvfb -displayfd 3 -noreset -screen 0 "$(screen_size)x24" -nolisten tcp 3>"$home/display" >build/tour/display.log 2>&1 &
     started[display]=$!
     await "a display" test -s "$home/display"
     DISPLAY=:$(<"$home/display")

@@ -7,22 +7,20 @@ declare -A started
 # --- the form, as its table states it
 
 declare -A middle=() # of each control of the main window: "X Y"
-tab_order=() # the fields and buttons as Tab visits them
-scale_fields=()
+tab_order=()         # the fields and buttons as Tab visits them
 
 read_form() {
     local name x y kind
     while read -r name x y kind; do
         middle[$name]="$x $y"
         [[ $kind == other ]] || tab_order+=("$name")
-        [[ $kind != bound ]] || scale_fields+=("$name")
     done < <(awk -F, '
         !/^(CONTROL|CHILD|BAND_ROW)\(/ { next }
         function print_row(name, left, top, width, height, kind) {
             print name, int(left + width / 2), int(top + height / 2), kind
         }
         { gsub(/"[^"]*"|[ )]/, "") }
-        /^BAND_ROW/ { print_row($2, $3, $4, $5, $6, "bound"); print_row($7, $8, $9, $10, $11, "bound") }
+        /^BAND_ROW/ { print_row($2, $3, $4, $5, $6, "stop"); print_row($7, $8, $9, $10, $11, "stop") }
         !/^BAND_ROW/ {
             is_stop = $2 ~ /^(TextField|PushButton|CheckBox|Listbox)$/ && $9 !~ /^hidden/
             print_row($3, $5, $6, $7, $8, is_stop ? "stop" : "other")
@@ -195,14 +193,6 @@ expect_field() { # NAME TEXT
     go_to "$1"
     [[ $1 != total ]] || key ctrl+a
     expect_copy "$1" "$2"
-}
-
-expect_scale() { # 24 numbers
-    local field
-    for field in "${scale_fields[@]}"; do
-        expect_field "$field" "$1"
-        shift
-    done
 }
 
 # Reads a result by mouse: the way there by Tab is long. An empty one gives nothing to copy.

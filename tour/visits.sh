@@ -131,32 +131,3 @@ visit_by_ear() {
     step "a paper by ear"
     (on_desktop timeout 50 tour/by_ear "${default_scale[@]}") || fail "the program was not heard as it should be"
 }
-
-bells() { grep -c 'window= 0x0, !event_only' build/tour/bells.log || true; }
-
-bells_are() { (($(bells) == $1)); }
-
-# The server reports each bell; the first one is rung here, to know that the watch works.
-visit_bell() {
-    step "the bell of a notice and of a question"
-    echo 'Bell() printEvent' >"$home/bells"
-    : >build/tour/bells.log
-    stdbuf -oL xkbevd -cfg "$home/bells" >>build/tour/bells.log 2>&1 &
-    # shellcheck disable=SC2034 # tour/desktop.sh ends it
-    started["bell watch"]=$!
-    await "the watch over the bell" grep -q ImAlive build/tour/bells.log
-    xkbbell
-    await "a bell" bells_are 1
-    new_class 3 4
-    enter 45
-    await_box "the notice that refuses 45"
-    await "the notice's bell" bells_are 2
-    answer_box Return
-    go_to_amax
-    key 5
-    await_box "the question after 5"
-    await "the question's bell" bells_are 3
-    answer_box Escape
-    expect_papers 2
-    same "the bells in all" 3 "$(bells)"
-}

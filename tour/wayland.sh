@@ -1,6 +1,8 @@
-# shellcheck shell=bash disable=SC2034,SC2154
+# shellcheck shell=bash
 # A Wayland desktop in place of the other, and the hands and eyes for it: what these functions do for the visits is
 # the same, so that the same visits are played.
+
+declare -g home main menu_bar # set by the other files of the tour
 
 # --- the desktop
 
@@ -26,13 +28,14 @@ start_display() {
     on_desktop "${as_nobody[@]}" env -u WAYLAND_DISPLAY XDG_RUNTIME_DIR="$sockets" WLR_BACKENDS=headless \
         WLR_LIBINPUT_NO_DEVICES=1 WLR_RENDERER=pixman LIBSEAT_BACKEND=noop sway --config /dev/null \
         >build/tour/compositor.log 2>&1 </dev/null &
-    started[display]=$!
+    started["display"]=$!
     await "a compositor" test -S "$sockets/control" -a -S "$sockets/wayland-1"
-    (sway_does output HEADLESS-1 resolution "$screen") || fail "the compositor has no screen"
+    (sway_does output HEADLESS-1 resolution "$(screen_size)") || fail "the compositor has no screen"
     on_desktop wtype -s 3600000 >build/tour/keyboard.log 2>&1 &
-    started[keyboard]=$!
+    started["keyboard"]=$!
     on_desktop tour/pointer >build/tour/mouse.log 2>&1 &
-    started[mouse]=$!
+    # shellcheck disable=SC2034 # tour/desktop.sh ends it
+    started["mouse"]=$!
     await "a keyboard" seat_has keyboard
     await "a mouse" seat_has pointer
 }
@@ -107,8 +110,5 @@ visit_held_key() {
     expect_papers 2
     go_to missed
     press -P 1 -s 1000 -p 1
-    mark_clipboard
-    key ctrl+a ctrl+c
-    await "what was typed on the clipboard" clipboard_is_not "$mark"
-    [[ $(clipboard) == 111* ]] || fail "a digit held down gave only \"$(clipboard)\""
+    expect_repeats
 }
