@@ -1,4 +1,4 @@
-#include "bench/first_paint.h"
+#include "bench/measure.h"
 
 #include <QApplication>
 #include <QFile>
