@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# A teacher's hands and eyes: keys, clicks, and what can be read off the windows. Wants tour/desktop.sh.
+# A teacher's hands and eyes: keys, clicks, windows, fields, pictures. Needs tour/desktop.sh.
 
 declare theme main # set by its caller and by tour/desktop.sh
 declare -A started
@@ -31,8 +31,8 @@ read_form
 
 # --- keys
 
-# A repeat that the server makes while a key is held has the time stamp of the release before it. So each key goes
-# down some milliseconds after the last one went up: no hand is faster.
+# The server's repeats of a held key have the time stamp of the release before them. So each key goes down some
+# milliseconds after the last one went up, as under a real hand.
 key() { xdotool key --delay 4 "$@"; }
 
 type_text() { xdotool type --delay 4 "$1"; }
@@ -53,7 +53,7 @@ window_in_front() { # TITLE
 
 is_front() { in_front && ((front == $1)); }
 
-# A message box is a window of the program's that has no title of its own.
+# A message box is a window of the program without a title.
 box_in_front() {
     in_front && ((front != main)) && title_of_front && [[ $title == "" || $title == gradeloom ]] &&
         [[ $(xdotool getwindowpid "$front" 2>/dev/null) == "${started[program]}" ]]
@@ -64,8 +64,8 @@ await_box() { # WHAT
     box=$front
 }
 
-# Presses keys on the box in front, and only then: a box takes no key before the keyboard has been quiet for half a
-# second. Nothing on the screen shows when that is over, so this is the one place where the tour waits for a time.
+# A box ignores keys until the keyboard has been quiet for half a second. Nothing on the screen shows when that is
+# over, so this waits for a fixed time.
 press_on_box() { # KEY...
     sleep 0.6
     is_front "$box" || fail "the box was gone before it was answered"
@@ -79,7 +79,7 @@ answer_box() { # KEY...
 
 await_main() { await "the main window in front again" is_front "$main"; }
 
-# Opens something with a key and waits for the window of that title.
+# Opens a window with a key and waits for its title.
 open_with() { # KEY TITLE
     key "$1"
     await "the window $2" window_in_front "$2"
@@ -88,13 +88,6 @@ open_with() { # KEY TITLE
 answer_path() { # PATH
     key ctrl+a
     enter "$1"
-}
-
-# The file is written atomically, but the dialog is gone a moment earlier.
-save_as() { # PATH
-    answer_path "$1"
-    await "the file ${1##*/}" test -s "$1"
-    await_main
 }
 
 # --- the mouse
@@ -111,7 +104,7 @@ measure_menu_bar() {
     ((menu_bar >= 10 && menu_bar <= 60)) || fail "the main window is $HEIGHT high: no room for form and menu bar"
 }
 
-# Does something with the mouse at a point of the main window's form.
+# Moves the mouse to a point of the main window's form and acts there.
 mouse_at() { # X Y WHAT...
     xdotool mousemove --window "$main" "$1" $((menu_bar + $2)) "${@:3}"
 }
@@ -142,7 +135,7 @@ closes() { # WHAT COMMAND...
 
 click_edit() { mouse_at 55 $((-menu_bar / 2)) click 1; }
 
-# Opens the Edit menu by mouse and goes on by keys: Down is its first command, Up its last.
+# Chooses from the Edit menu: the key Down gives its first command, Up its last.
 edit_menu() { # KEY
     opens "the Edit menu" click_edit
     key "$1" Return
@@ -157,7 +150,7 @@ index_of() { # NAME
     fail "no field is called $1"
 }
 
-# Moves the focus with Tab, which selects a field's text, from the first field.
+# Tabs from the first field to a control; in a field Tab selects the text.
 go_to() { # NAME
     index_of "$1"
     click_total
@@ -174,7 +167,7 @@ clipboard_is_not() { [[ $(clipboard) != "$1" ]]; }
 
 to_clipboard() { xclip -selection clipboard >/dev/null 2>&1; }
 
-# Puts a mark on the clipboard, by which a copy is noticed.
+# Puts a text on the clipboard that is no longer there after a copy.
 mark_clipboard() {
     mark="nothing was copied $((++marks))"
     printf %s "$mark" | to_clipboard
@@ -210,8 +203,8 @@ photograph() { import -window "$1" "$2"; } # WINDOW FILE
 
 photograph_screen() { [[ -z ${DISPLAY:-} ]] || import -window root build/tour/failure.png; }
 
-# Leaves a picture of a window. It is done when two shots in a row are alike, show more than an empty surface and,
-# if a shot is named, differ from that one.
+# Saves a picture of a window once two shots in a row are alike, show more than an empty surface and differ from the
+# shot UNLIKE.
 picture() { # NAME WINDOW [UNLIKE]
     local file=build/tour/$theme/$1.png
     shot=
@@ -225,7 +218,7 @@ steady() { # FILE WINDOW UNLIKE
     [[ $shot == "$last" && $shot != "$3" ]] && ((${shot#* } > 8))
 }
 
-# How many pixels of a picture have a colour.
+# Prints how many pixels of a picture have a colour.
 count_color() { # FILE COLOR
     convert "$1" -depth 8 -fill black +opaque "rgb($2)" -fill white -opaque "rgb($2)" -format '%[fx:round(mean*w*h)]' info:
 }

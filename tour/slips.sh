@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# What fingers do otherwise than expected. Each visit makes the class that it needs, and ends with the main window in
+# What fingers do by mistake or in a hurry. Each visit makes the class that it needs, and ends with the main window in
 # front and the default scale.
 
 declare default_scale mark # set by the other files of the tour
@@ -16,7 +16,7 @@ new_class() { # SCORE...
 
 # --- hands
 
-# Holds keys down, with the server's repeats, and releases them in the opposite order.
+# Holds keys down while the server repeats them, and releases them in reverse order.
 hold() { # SECONDS KEY...
     local seconds=$1 name down=() up=()
     shift
@@ -47,15 +47,15 @@ visit_held_keys() {
     await_box "the notice that refuses 45"
     answer_box Return
     expect_papers 11
-    # In a field a key held down repeats: so the server does make repeats, and the two above were tried.
+    # A key held in a field does repeat, which proves that the server made repeats above.
     go_to missed
     hold 0.8 1
     expect_repeats
     xset r rate
 }
 
-# Half a second lies between the two and the three clicks. Of ten clicks 270 milliseconds apart every second one comes
-# later than a double click's time of 400 after the last that acted, with the same room for jitter on either side.
+# Half a second lies between the double and the triple click. Of ten clicks 270 ms apart every second one acts: the
+# double-click interval is 400 ms, so there are 130 ms of room for jitter on both sides.
 visit_many_clicks() {
     step "a double, a triple click and ten brisk ones on Grade"
     new_class
@@ -66,7 +66,7 @@ visit_many_clicks() {
     expect_papers 5
 }
 
-# Keys that are meant for a field do not answer a question that has come up meanwhile.
+# Keys meant for a field do not answer a question that comes up meanwhile.
 visit_stray_keys() {
     step "keys meant for a field while a box comes"
     local delay keys
@@ -91,7 +91,7 @@ visit_stray_keys() {
 
 # --- keyboards
 
-# Switches of the layout are no keys that could change a field.
+# Switching the keyboard layout is not typing.
 visit_layouts() {
     step "switches of the keyboard layout in a scale field"
     local layout option keys
@@ -115,7 +115,7 @@ visit_layouts() {
     expect_papers 3
 }
 
-# A letter of several keys asks like any other, before it is in the field, and not before it is complete.
+# A letter made of several keys brings the question once it is complete and before it is in the field.
 type_e_acute() { # KEY...
     new_class 3 4 5
     go_to amax
@@ -134,7 +134,7 @@ visit_composed_text() {
     setxkbmap -layout us -option ""
 }
 
-# A menu that is left without a choice gives the keys back, in each of the ways to leave it.
+# A menu that is left without a choice gives the keys back to the field, however it is left.
 visit_left_menus() {
     step "menus that are left, and a tap on Alt"
     local opening closing papers=0
@@ -161,7 +161,7 @@ visit_left_menus() {
 
 # --- the mode
 
-# Behind each paper the program has written into Number Correct.
+# The program writes into Number Correct after each paper; the next number typed there replaces that text.
 visit_number_correct() {
     step "Use Number Correct in the middle of a class"
     new_class 4

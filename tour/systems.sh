@@ -1,6 +1,5 @@
 # shellcheck shell=bash
-# What desktops and systems do otherwise than expected. Each visit ends with the main window in front and the default
-# scale.
+# What desktops and the system do to the program. Each visit ends with the main window in front and the default scale.
 
 declare default_scale theme home preferences main front menu_bar # set by the other files of the tour
 declare -A started
@@ -26,12 +25,12 @@ visit_small_screen() {
     await_main
 }
 
-# Whether a part of a picture has a dark pixel, as only texts have on these forms.
+# Whether a part of a picture has a dark pixel: on these forms only texts do.
 has_ink() { # FILE GEOMETRY
     [[ $(convert "build/tour/$theme/$1.png" -crop "$2" +repage -format '%[fx:minima < 0.4]' info:) == 1 ]]
 }
 
-# Beside the first label of the scale, and inside the ends of the about window's button, nothing is written.
+# No text stands left of the scale's first label, nor at the two ends of the about window's button.
 visit_large_font() {
     step "a desktop font of 20 points"
     picture mainscreen "$main"
@@ -73,7 +72,7 @@ visit_dialog_windows() {
     same_lines "the exported lines" "$(printf '%s\n' 92.5 90 87.5)" "$(<"$home/replaced")"
 }
 
-# Which window is the main one is not known while a notice is in front of it from the start.
+# The main window is only known once the notice in front of it is closed.
 launch_into_notice() {
     mkdir -p "${preferences%/*}"
     printf '%s\n' 100 98 97 80 "${default_scale[@]:4}" >"$preferences"

@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# The places that the tour goes to. Each visit starts and ends with the main window in front.
+# The program as it is meant to be used. Each visit starts and ends with the main window in front.
 
 declare theme home main front box shot # set by tour/desktop.sh and tour/hands.sh
 
@@ -46,7 +46,7 @@ take_back() { # HOW
     fi
 }
 
-# The field that the mode reads gets the focus with its text selected.
+# Switches Use Number Correct and moves the focus to the field that it selects.
 use_mode() { # correct|missed
     [[ $mode != "$1" ]] || return 0
     click checkcorrect
@@ -61,7 +61,7 @@ refuse() { # SCORE
     answer_box Return
 }
 
-# Types in the papers, the first ones only if a number is given.
+# Types in all papers, or the first COUNT of them.
 grade_papers() { # [COUNT]
     local how score
     mode=missed
@@ -93,7 +93,7 @@ visit_class() {
     picture mainscreen "$main"
 }
 
-# A few papers and a refused one, for the pictures alone.
+# Four papers and a refused one, for the pictures.
 visit_few_papers() {
     step "a few papers"
     grade_papers 4
@@ -116,7 +116,7 @@ visit_print() {
     await "the whole PDF file" is_whole_pdf "$pdf"
     await_main
     pdftoppm -png -r 72 -singlefile -l 1 "$pdf" "build/tour/$theme/report"
-    # Blanks differ with the fonts, the rest does not.
+    # The blanks depend on the fonts.
     same_lines "the printed lines" "$(
         echo "ResultsfromGradeloom"
         echo "NumberofStudents:$(result students)ClassAverage:$(result average)%"
