@@ -152,7 +152,8 @@ visit_left_menus() {
              click_edit:key Escape
              click_edit:click_edit
              click_edit:mouse_at 30 150 click 1
-             key F10:key F10"
+             key F10:key F10
+             key F10:key Right Escape"
     click missed
     key Alt_L
     enter 3
