@@ -115,7 +115,7 @@ click() { mouse_at ${middle[$1]} click 1; } # CONTROL
 click_total() { click total; }
 click_save_settings() { click PushButton4; }
 
-windows_shown() { xdotool search --onlyvisible --pid "${started[program]}" 2>/dev/null | wc -l; }
+windows_shown() { { xdotool search --onlyvisible --pid "${started[program]}" 2>/dev/null || true; } | wc -l; }
 
 more_windows_than() { (($(windows_shown) > $1)); }
 
