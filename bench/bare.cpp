@@ -47,7 +47,7 @@ void AddItem(QMenuBar& bar, std::string_view under, char const* text)
     static QMenu* menu = nullptr;
     if (QString const caption = QString::fromUtf8(text); !caption.isEmpty() && under.empty()) {
         menu = bar.addMenu(caption);
-    } else if (!caption.isEmpty()) {
+    } else if (!caption.isEmpty() && menu != nullptr) {
         menu->addAction(caption);
     }
 }

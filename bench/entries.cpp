@@ -67,9 +67,10 @@ void MeasurePress()
     QWidget window;
     StockTable table(window, 200, 431);
     std::array<QLineEdit, 9> fields;
+    int top = 0;
     for (QLineEdit& field : fields) {
         field.setParent(&window);
-        field.move(0, 30 * static_cast<int>(&field - fields.data()));
+        field.move(0, top += 30);
     }
     window.show();
     FillTo(kFew);
