@@ -1,4 +1,4 @@
-#include "bench/first_paint.h"
+#include "bench/measure.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -18,55 +18,37 @@
 
 namespace {
 
-constexpr struct {
-    std::string_view type;
-    char const* caption;
-    int left, top, width, height;
-    bool isHidden;
-} kControls[] = {
-#define CONTROL(tab, type, name, caption, left, top, width, height, style)                                   \
-    {#type, caption, left, top, width, height, std::string_view(#style).starts_with("hidden")},
-#include "frame/mainscreen.def"
-};
+// What the tables of form and menu call them.
+using TextField = QLineEdit;
+using Label = QLabel;
+using Listbox = QTableView;
+using CheckBox = QCheckBox;
+using GroupBox = QGroupBox;
+using PushButton = QPushButton;
+using BevelButton = QPushButton;
 
-constexpr struct {
-    std::string_view under;
-    std::string_view text;
-} kMenu[] = {
-#define ITEM(under, name, type, text, shortcut) {under, text},
-#include "frame/menu.def"
-};
-
-QWidget* Stock(std::string_view type, QString const& caption, QWidget* parent)
+template <typename Control>
+void Add(QWidget* form, char const* caption, QRect place, std::string_view style)
 {
-    if (type == "TextField") {
-        return new QLineEdit(QStringLiteral("100"), parent);
+    auto* const control = new Control(form);
+    if constexpr (std::is_same_v<Control, QLineEdit>) {
+        control->setText(QStringLiteral("100"));
+    } else if constexpr (std::is_same_v<Control, QGroupBox>) {
+        control->setTitle(QString::fromUtf8(caption));
+    } else if constexpr (!std::is_same_v<Control, QTableView>) {
+        control->setText(QString::fromUtf8(caption));
     }
-    if (type == "Label") {
-        return new QLabel(caption, parent);
-    }
-    if (type == "Listbox") {
-        return new QTableView(parent);
-    }
-    if (type == "CheckBox") {
-        return new QCheckBox(caption, parent);
-    }
-    if (type == "GroupBox") {
-        return new QGroupBox(caption, parent);
-    }
-    return new QPushButton(caption, parent);
+    control->setGeometry(place);
+    control->setVisible(!style.starts_with("hidden"));
 }
 
-void AddMenu(QMenuBar& bar)
+void AddItem(QMenuBar& bar, std::string_view under, char const* text)
 {
-    QMenu* menu = nullptr;
-    for (auto const& [under, text] : kMenu) {
-        QString const caption = QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
-        if (under.empty() && !text.empty()) {
-            menu = bar.addMenu(caption);
-        } else if (menu != nullptr && !text.empty()) {
-            menu->addAction(caption);
-        }
+    static QMenu* menu = nullptr;
+    if (QString const caption = QString::fromUtf8(text); !caption.isEmpty() && under.empty()) {
+        menu = bar.addMenu(caption);
+    } else if (!caption.isEmpty() && menu != nullptr) {
+        menu->addAction(caption);
     }
 }
 
@@ -78,14 +60,13 @@ int main(int count, char** arguments)
     EndAtFirstPaint();
     QMainWindow window;
     window.setFixedSize(705, 460);
-    auto* const content = new QWidget(&window);
-    window.setCentralWidget(content);
-    for (auto const& [type, caption, left, top, width, height, isHidden] : kControls) {
-        QWidget* const control = Stock(type, QString::fromUtf8(caption), content);
-        control->setGeometry(left, top, width, height);
-        control->setVisible(!isHidden);
-    }
-    AddMenu(*window.menuBar());
+    auto* const form = new QWidget(&window);
+    window.setCentralWidget(form);
+#define CONTROL(tab, type, name, caption, left, top, width, height, style)                                   \
+    Add<type>(form, caption, QRect(left, top, width, height), #style);
+#include "frame/mainscreen.def"
+#define ITEM(under, name, type, text, shortcut) AddItem(*window.menuBar(), under, text);
+#include "frame/menu.def"
     window.show();
     return QApplication::exec();
 }

@@ -1,11 +1,11 @@
 #include "bench/measure.h"
+#include "frame/clear_results.h"
 #include "frame/form_state.h"
 #include "platform/qt/doors.h"
 #include "presenter/presenter.h"
 #include "session/history.h"
 
 #include <QFile>
-#include <QGridLayout>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QStandardItemModel>
@@ -13,6 +13,7 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <array>
 
 #include <unistd.h>
 
@@ -21,50 +22,35 @@ namespace {
 constexpr Integer kFew = 10;
 constexpr Integer kMany = 100000;
 
-/// Fields and tables of the toolkit in a window of their own.
-struct Stock {
-    Stock(int fieldCount, int tableCount)
+struct StockTable : QTableView {
+    StockTable(QWidget& window, int left, int width) : QTableView(&window)
     {
-        auto* const layout = new QGridLayout(&window);
-        for (int i = 0; i < std::max(fieldCount, tableCount); ++i) {
-            if (i < fieldCount) {
-                layout->addWidget(fields.emplace_back(new QLineEdit), i, 0);
-            }
-            if (i < tableCount) {
-                layout->addWidget(tables.emplace_back(new QTableView), 0, 1 + i, std::max(1, fieldCount), 1);
-                tables.back()->setModel(new QStandardItemModel(tables.back()));
-                tables.back()->verticalHeader()->hide();
-            }
-        }
-        window.resize(631, 646);
-        window.show();
-        Paint();
+        setGeometry(left, 0, width, 646);
+        setModel(&model);
+        verticalHeader()->hide();
     }
 
-    void addRow(int table, QStringList const& cells)
+    void addRow(QStringList const& cells)
     {
         QList<QStandardItem*> items;
         for (QString const& cell : cells) {
             items += new QStandardItem(cell);
         }
-        static_cast<QStandardItemModel*>(tables[static_cast<std::size_t>(table)]->model())->appendRow(items);
+        model.appendRow(items);
     }
 
-    QWidget window;
-    std::vector<QLineEdit*> fields;
-    std::vector<QTableView*> tables;
+    QStandardItemModel model;
 };
 
 void FillTo(Integer entries)
 {
     class mainscreen& form = ::mainscreen();
     if (EntryCount(form) > entries) {
-        DeleteHistory(form);
-        form.numstudents().Text("");
+        ClearResults(form);
     }
     for (Integer entry = EntryCount(form) + 1; entry <= entries; ++entry) {
         form.numstudents().Text(Str(entry));
-        AppendEntry(form, entry, 90.0, 3.0, 90);
+        AppendEntry(form, {entry, 90.0, 3.0, "A-", 90, 90.0 * static_cast<double>(entry)});
     }
     Paint();
 }
@@ -76,53 +62,43 @@ void Press()
     Paint();
 }
 
-double PressAndUndo()
-{
-    return ProcessorTime([] {
-        Press();
-        ::mainscreen()._EditUndo_Action();
-        Paint();
-    });
-}
-
 void MeasurePress()
 {
-    constexpr int kRuns = 301;
-    Stock stock(9, 1);
-    FillTo(kFew);
-    Runs runs;
-    for (int i = 0; i < kRuns; ++i) {
-        double const floor = ProcessorTime([&] {
-            for (QLineEdit* const field : stock.fields) {
-                field->setText(QString::number(i));
-            }
-            stock.addRow(0, {QString::number(i), QStringLiteral("90"), QStringLiteral("%")});
-            stock.tables[0]->scrollToBottom();
-            Paint();
-        });
-        runs.add(floor, ProcessorTime(Press));
+    QWidget window;
+    StockTable table(window, 200, 431);
+    std::array<QLineEdit, 9> fields;
+    int top = 0;
+    for (QLineEdit& field : fields) {
+        field.setParent(&window);
+        field.move(0, top += 30);
     }
-    PrintRatio("a painted press: nine stock fields and a row", runs, 1.5, "us");
+    window.show();
+    FillTo(kFew);
+    auto const pressStock = [&] {
+        QString const number = QString::number(table.model.rowCount());
+        std::ranges::for_each(fields, [&](QLineEdit& field) { field.setText(number); });
+        table.addRow({number, QStringLiteral("90"), QStringLiteral("%")});
+        table.scrollToBottom();
+        Paint();
+    };
+    Compare("a painted press: nine stock fields and a row", 301, 1.5, "us", ProcessorTime(pressStock),
+            ProcessorTime(Press));
 }
 
-/// Few and many entries take turns a few times: only one form can be open.
-void MeasureGrowthOfPress()
+void PressAndUndo()
 {
-    constexpr int kRounds = 5;
-    constexpr int kRuns = 101;
-    Runs runs;
-    for (int round = 0; round < kRounds; ++round) {
-        std::vector<double> few(kRuns);
-        std::vector<double> many(kRuns);
-        FillTo(kFew);
-        std::ranges::generate(few, PressAndUndo);
-        FillTo(kMany);
-        std::ranges::generate(many, PressAndUndo);
-        for (int i = 0; i < kRuns; ++i) {
-            runs.add(few[static_cast<std::size_t>(i)], many[static_cast<std::size_t>(i)]);
-        }
-    }
-    PrintRatio("press and Undo behind 100000: behind 10", runs, 1.05, "us");
+    Press();
+    ::mainscreen()._EditUndo_Action();
+    Paint();
+}
+
+/// A median of many, since only one form can be open: few and many entries take turns only a few times.
+double MedianBehind(Integer entries)
+{
+    FillTo(entries);
+    std::vector<double> times(101);
+    std::ranges::generate(times, ProcessorTime(PressAndUndo));
+    return Quantile(std::move(times), 0.5);
 }
 
 void WriteAndFlush(QString const& path, QByteArray const& bytes)
@@ -135,59 +111,45 @@ void WriteAndFlush(QString const& path, QByteArray const& bytes)
 
 void MeasureExport()
 {
-    constexpr int kRuns = 31;
     QTemporaryDir const folder;
     QString const path = folder.filePath(QStringLiteral("percents"));
     PlatformDoors().fileDialog = [&](auto const&) { return path.toStdString(); };
+    auto const exportAll = [] { ::mainscreen()._FileExport_Action(); };
     FillTo(kMany);
-    Runs clock;
-    Runs processor;
-    for (int i = 0; i <= kRuns; ++i) {
-        double ours = 0.0;
-        double const oursClock =
-            ClockTime([&] { ours = ProcessorTime([] { ::mainscreen()._FileExport_Action(); }); });
-        QFile file(path);
-        static_cast<void>(file.open(QIODevice::ReadOnly));
-        QByteArray const bytes = file.readAll();
-        double floor = 0.0;
-        QString const other = folder.filePath(QStringLiteral("floor%1").arg(i));
-        double const floorClock =
-            ClockTime([&] { floor = ProcessorTime([&] { WriteAndFlush(other, bytes); }); });
-        clock.add(floorClock, oursClock);
-        processor.add(floor, ours);
-    }
-    PrintRatio("export of 100000: one flushed write, by clock", clock, 1.5, "us");
-    PrintRatio("export of 100000: the same, processor alone", processor, 1.5, "us");
-    FillTo(0);
-    ::mainscreen().BevelButton1_Action();
+    exportAll();
+    QFile file(path);
+    static_cast<void>(file.open(QIODevice::ReadOnly));
+    QByteArray const bytes = file.readAll();
+    int copies = 0;
+    auto const writeCopy = [&] { WriteAndFlush(folder.filePath(QString::number(++copies)), bytes); };
+    Compare("export of 100000: one flushed write, by clock", 31, 1.5, "us", ClockTime(writeCopy),
+            ClockTime(exportAll));
 }
 
 void MeasurePresenter()
 {
-    constexpr int kRuns = 101;
-    constexpr int kRows[] = {36, 35, 35};
-    Stock stock(0, 3);
+    QWidget window;
+    StockTable first(window, 0, 200);
+    StockTable second(window, 210, 200);
+    StockTable third(window, 420, 200);
+    window.show();
     ::Window1().EditField1().Text("105");
     Paint();
-    Runs runs;
-    for (int i = 0; i < kRuns; ++i) {
-        double const floor = ProcessorTime([&] {
-            for (int table = 0; table < 3; ++table) {
-                auto* const model =
-                    static_cast<QStandardItemModel*>(stock.tables[static_cast<std::size_t>(table)]->model());
-                model->clear();
-                for (int row = 0; row < kRows[table]; ++row) {
-                    stock.addRow(table, {QString::number(-row), QString::number(100.0 - row / 1.05)});
-                }
+    auto const fillStock = [&] {
+        for (StockTable* const table : {&first, &second, &third}) {
+            table->model.clear();
+            for (int row = 0; row < 35; ++row) {
+                table->addRow({QString::number(-row), QString::number(100.0 - row / 1.05)});
             }
-            Paint();
-        });
-        runs.add(floor, ProcessorTime([] {
-                     ::Window1().PushButton1_Action();
-                     Paint();
-                 }));
-    }
-    PrintRatio("Presenter of 105 points: three stock tables", runs, 1.5, "us");
+        }
+        Paint();
+    };
+    auto const fillChart = [] {
+        ::Window1().PushButton1_Action();
+        Paint();
+    };
+    Compare("Presenter of 105 points: three stock tables", 101, 1.5, "us", ProcessorTime(fillStock),
+            ProcessorTime(fillChart));
     ::Window1().Close();
     Paint();
 }
@@ -200,7 +162,9 @@ void MeasureEntries()
     ::mainscreen().Show();
     Paint();
     MeasurePress();
-    MeasureGrowthOfPress();
+    Compare(
+        "press and Undo behind 100000: behind 10", 9, 1.05, "us", [] { return MedianBehind(kFew); },
+        [] { return MedianBehind(kMany); });
     MeasureExport();
     MeasurePresenter();
 }

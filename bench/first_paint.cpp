@@ -1,4 +1,4 @@
-#include "bench/first_paint.h"
+#include "bench/measure.h"
 
 #include <QApplication>
 #include <QFile>
@@ -25,7 +25,7 @@ public:
     {
         if (event->type() == QEvent::Paint) {
             qApp->removeEventFilter(this);
-            QTimer::singleShot(0, this, [] { // the whole window has been painted by then
+            QTimer::singleShot(0, this, [] { // by then the whole window has been painted
                 auto const time = std::clock() * 1'000'000 / CLOCKS_PER_SEC;
                 std::cout << time << ' ' << MemoryInKib() << '\n' << std::flush;
                 std::_Exit(0);

@@ -7,10 +7,6 @@
 #include <cstdio>
 #include <ctime>
 
-#include <malloc.h>
-
-namespace {
-
 double Quantile(std::vector<double> values, double part)
 {
     auto const place =
@@ -19,34 +15,39 @@ double Quantile(std::vector<double> values, double part)
     return *place;
 }
 
-} // namespace
-
-double ProcessorTime(Step const& step)
+Figure ProcessorTime(std::function<void()> step)
 {
-    std::clock_t const start = std::clock();
-    step();
-    return 1e6 * static_cast<double>(std::clock() - start) / static_cast<double>(CLOCKS_PER_SEC);
+    return [step = std::move(step)] {
+        std::clock_t const start = std::clock();
+        step();
+        return 1e6 * static_cast<double>(std::clock() - start) / static_cast<double>(CLOCKS_PER_SEC);
+    };
 }
 
-double ClockTime(Step const& step)
+Figure ClockTime(std::function<void()> step)
 {
-    auto const start = std::chrono::steady_clock::now();
-    step();
-    return std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - start).count();
+    return [step = std::move(step)] {
+        auto const start = std::chrono::steady_clock::now();
+        step();
+        return std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - start).count();
+    };
 }
 
-void PrintRatio(char const* what, Runs const& runs, double most, char const* unit)
+void Compare(char const* what, int runs, double most, char const* unit, Figure const& floor,
+             Figure const& ours)
 {
+    std::vector<double> floors;
+    std::vector<double> figures;
     std::vector<double> ratios;
-    ratios.reserve(runs.ours.size());
-    for (std::size_t i = 0; i < runs.ours.size(); ++i) {
-        ratios.push_back(runs.ours[i] / runs.floor[i]);
+    for (int i = 0; i < runs; ++i) {
+        floors.push_back(floor());
+        figures.push_back(ours());
+        ratios.push_back(figures.back() / floors.back());
     }
-    double const ours = Quantile(runs.ours, 0.5);
-    double const floor = Quantile(runs.floor, 0.5);
-    std::printf("%-44s %5.2f of %4.2f%s (%.2f to %.2f in %zu runs; %.0f %s, floor %.0f)\n", what,
-                ours / floor, most, ours / floor > most ? " MORE" : "", Quantile(ratios, 0.25),
-                Quantile(ratios, 0.75), ratios.size(), ours, unit, floor);
+    double const ratio = Quantile(figures, 0.5) / Quantile(floors, 0.5);
+    std::printf("%-44s %5.2f of %4.2f%s (%.2f to %.2f in %d runs; %.0f %s, floor %.0f)\n", what, ratio, most,
+                ratio > most ? " MORE" : "", Quantile(ratios, 0.25), Quantile(ratios, 0.75), runs,
+                Quantile(figures, 0.5), unit, Quantile(floors, 0.5));
 }
 
 void Paint()
@@ -54,10 +55,4 @@ void Paint()
     QApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QApplication::processEvents();
-}
-
-double HeapInKib()
-{
-    struct mallinfo2 const info = mallinfo2();
-    return static_cast<double>(info.uordblks + info.hblkhd) / 1024.0;
 }

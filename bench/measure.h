@@ -3,35 +3,27 @@
 #include <functional>
 #include <vector>
 
-// Each of these prints its figures. A ratio has the most that it should be beside it.
-
-void MeasureStart();
+// What the bench prints beside the starts and the rest.
 void MeasureEntries();
-void MeasureRest();
 void MeasureGrowth();
 
-using Step = std::function<void()>;
+using Figure = std::function<double()>;
 
 /// The processor time, or the time by the clock, that a step takes, in microseconds.
-double ProcessorTime(Step const& step);
-double ClockTime(Step const& step);
+Figure ProcessorTime(std::function<void()> step);
+Figure ClockTime(std::function<void()> step);
 
-/// One thing measured several times, each time right after its floor, so that others on the machine slow both.
-struct Runs {
-    std::vector<double> floor;
-    std::vector<double> ours;
+/// The value below which a part of all lies: 0.5 gives the median.
+double Quantile(std::vector<double> values, double part);
 
-    void add(double one, double other)
-    {
-        floor.push_back(one);
-        ours.push_back(other);
-    }
-};
-
-/// Prints the ratio of the medians, with the quartiles of the ratios of the single runs.
-void PrintRatio(char const* what, Runs const& runs, double most, char const* unit);
+/// Takes two figures in turn, so that others on the machine slow both. Prints the ratio of their medians, the most that
+/// it should be, and the quartiles of the single ratios.
+void Compare(char const* what, int runs, double most, char const* unit, Figure const& floor,
+             Figure const& ours);
 
 /// Processes what is pending, painting included.
 void Paint();
-/// Memory of this process in KiB that was taken from the heap and not given back.
-double HeapInKib();
+
+/// Ends the process once the first window has been painted, and prints the processor time in microseconds since its
+/// start and its memory in KiB. Memory shared with other processes is divided among them.
+void EndAtFirstPaint();

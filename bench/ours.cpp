@@ -1,4 +1,4 @@
-#include "bench/first_paint.h"
+#include "bench/measure.h"
 #include "frame/startup.h"
 #include "platform/runtime.h"
 

@@ -1,10 +1,10 @@
-# shellcheck shell=bash disable=SC2034,SC2154
-# A desktop of the tour's own: a display, a window manager, and an empty home that is deleted at the end.
+# shellcheck shell=bash
+# The tour's own desktop: a display, a window manager, and an empty home that is deleted at the end.
 
-declare -A started=() # the numbers of the processes that run, by what they are
-part_start=0 # the second in which this part of the tour began
+declare program theme now front # set by its caller and by tour/hands.sh
+declare -A started=()           # process numbers by what runs
+part_start=0                    # the second in which this part of the tour began
 home=
-preferences= # the scale file that is read at the start
 
 step() {
     now="$theme: $*"
@@ -24,8 +24,16 @@ nothing_ended() {
     done
 }
 
-# await WHAT CONDITION...: waits for a condition and never for a time; one that does not come is a failure.
-await() {
+same() { # WHAT EXPECTED SEEN
+    [[ $2 == "$3" ]] || fail "$1: expected \"$2\", saw \"$3\""
+}
+
+same_lines() { # WHAT EXPECTED SEEN
+    diff <(echo "$2") <(echo "$3") >&2 || fail "$1 differ: < is expected, > was seen"
+}
+
+# Waits for a condition, never for a fixed time, and fails after twenty seconds.
+await() { # WHAT CONDITION...
     local what=$1 end=$((SECONDS + 20))
     shift
     until "$@"; do
@@ -38,7 +46,7 @@ await() {
 
 leave_desktop() {
     local process
-    for process in program "bell watch" "window manager" keyboard mouse display "second program" "second display" "message bus"; do
+    for process in program "window manager" keyboard mouse display "message bus"; do
         [[ -n ${started[$process]:-} ]] || continue
         kill "${started[$process]}" 2>/dev/null || true
         wait "${started[$process]}" 2>/dev/null || true
@@ -49,9 +57,9 @@ leave_desktop() {
     unset DISPLAY
 }
 
-# Everything on the desktop runs with this environment and nothing of the caller's: no printers, no session bus.
-# It takes the place of the background process that calls it, so that $! is the program's own number. The shell has
-# such a process ignore an interrupt; a program that is started by hand does not.
+# Runs a command with this environment alone: no printers, no session bus, nothing of the caller's. The command
+# replaces the calling background process, so $! is its process number. The shell makes background processes ignore
+# SIGINT; a program started by hand does not.
 on_desktop() {
     exec env --default-signal=INT -i PATH="$PATH" LANG=C.UTF-8 DISPLAY="$DISPLAY" QT_QPA_PLATFORM=xcb \
         HOME="$home" TMPDIR="$home/tmp" \
@@ -62,23 +70,29 @@ on_desktop() {
 
 make_home() {
     home=$(mktemp -d)
+    # shellcheck disable=SC2034 # only some of the visits read it
     preferences=$home/.config/gradeloom/Preferences
     mkdir -p "$home"/{tmp,run,.config,.cache,.local/share,.local/state}
     chmod 700 "$home/run"
+    local kde=(XDG_CURRENT_DESKTOP=KDE KDE_SESSION_VERSION=5 KDE_FULL_SESSION=true)
     theme_settings=(XDG_CURRENT_DESKTOP=none)
-    screen=1280x1024
     case $theme in
         dark)
-            theme_settings=(XDG_CURRENT_DESKTOP=KDE KDE_SESSION_VERSION=5 KDE_FULL_SESSION=true)
+            theme_settings=("${kde[@]}")
             cp tour/dark-colours "$home/.config/kdeglobals"
             ;;
-        small) screen=1024x600 ;;
+        large)
+            theme_settings=("${kde[@]}")
+            printf '[General]\nfont=DejaVu Sans,20,-1,5,50,0,0,0,0,0\n' >"$home/.config/kdeglobals"
+            ;;
         adwaita* | breeze) theme_settings+=(QT_STYLE_OVERRIDE="$theme") ;;
         gtk3 | gnome) theme_settings+=(QT_QPA_PLATFORMTHEME="$theme") ;;
     esac
 }
 
-# Whether a desktop's style is installed; that of the toolkit's own always is.
+screen_size() { if [[ $theme == small ]]; then echo 1024x600; else echo 1280x1024; fi; }
+
+# Whether a desktop's style is installed; `gnome` is part of the toolkit.
 has_style() { # THEME
     local plugins
     plugins=$(qmake6 -query QT_INSTALL_PLUGINS)
@@ -96,7 +110,7 @@ has_wayland() {
 
 has_window_manager() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
 
-# The bus over which assistive programs talk to this desktop's program and to no other.
+# Starts a bus for assistive programs that reaches no program outside this desktop.
 start_bus() {
     on_desktop dbus-daemon --session --nofork --print-address=3 3>"$home/bus" >build/tour/bus.log 2>&1 &
     started["message bus"]=$!
@@ -104,17 +118,17 @@ start_bus() {
     theme_settings+=(DBUS_SESSION_BUS_ADDRESS="$(<"$home/bus")" QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1)
 }
 
-# Without -noreset the server starts anew when its last client leaves, and that can be the one that only looks
-# whether the window manager is there yet.
+# Without -noreset the server resets when its last client disconnects, which can be the one that looks for the window
+# manager.
 start_display() {
-    Xvfb -displayfd 3 -noreset -screen 0 "${screen}x24" -nolisten tcp 3>"$home/display" >build/tour/display.log 2>&1 &
+    Xvfb -displayfd 3 -noreset -screen 0 "$(screen_size)x24" -nolisten tcp 3>"$home/display" >build/tour/display.log 2>&1 &
     started[display]=$!
     await "a display" test -s "$home/display"
     DISPLAY=:$(<"$home/display")
     export DISPLAY
     on_desktop openbox --sm-disable --config-file "$PWD/tour/openbox.xml" >build/tour/window-manager.log 2>&1 &
     started["window manager"]=$!
-    # Without a window manager every key would be lost in silence.
+    # Without a window manager all keys are lost without an error.
     await "a window manager" has_window_manager
     [[ $theme != heard ]] || start_bus
 }
@@ -131,16 +145,17 @@ start_program() {
 
 await_form() {
     await "the window Gradeloom X" window_in_front "Gradeloom X"
+    # shellcheck disable=SC2034 # tour/hands.sh and the visits read it
     main=$front
     measure_menu_bar
 }
 
 has_ended() { ! kill -0 "$1" 2>/dev/null; }
 
-# Ends the program with a command and looks at its exit status.
+# Ends the program with a command and checks its exit status.
 end_program() { # COMMAND...
     local pid=${started[program]} status=0
-    unset 'started[program]' # its end is no failure any more
+    unset 'started[program]' # from here on its end is expected
     "$@"
     await "the program's end" has_ended "$pid"
     wait "$pid" || status=$?

@@ -1,25 +1,38 @@
-# shellcheck shell=bash disable=SC2034,SC2154
-# A teacher's hands and eyes: keys, clicks, and what can be read off the windows.
+# shellcheck shell=bash
+# A teacher's hands and eyes: keys, clicks, windows, fields, pictures. Needs tour/desktop.sh.
 
-# The fields and buttons of the main window in the order in which Tab visits them.
-tab_order=(total missed correct Grade percentage lettergrade lastmissed aplusmax aplusmin SaveScale amax amin
-    aminusmax aminusmin bplusmax bplusmin bmax bmin bminusmax bminusmin cplusmax cplusmin cmax cmin cminusmax
-    cminusmin dplusmax dplusmin dmax dmin dminusmax dminusmin Default checkcorrect agrade bgrade cgrade dgrade
-    fgrade ListBox1 numstudents EditField1 SaveSettings)
+declare theme main # set by its caller and by tour/desktop.sh
+declare -A started
 
-scale_fields=(aplusmax aplusmin amax amin aminusmax aminusmin bplusmax bplusmin bmax bmin bminusmax bminusmin
-    cplusmax cplusmin cmax cmin cminusmax cminusmin dplusmax dplusmin dmax dmin dminusmax dminusmin)
+# --- the form, as its table states it
 
-same() { # WHAT EXPECTED SEEN
-    [[ $2 == "$3" ]] || fail "$1: expected \"$2\", saw \"$3\""
+declare -A middle=() # of each control of the main window: "X Y"
+tab_order=()         # the fields and buttons as Tab visits them
+
+read_form() {
+    local name x y kind
+    while read -r name x y kind; do
+        middle[$name]="$x $y"
+        [[ $kind == other ]] || tab_order+=("$name")
+    done < <(awk -F, '
+        !/^(CONTROL|CHILD|BAND_ROW)\(/ { next }
+        function print_row(name, left, top, width, height, kind) {
+            print name, int(left + width / 2), int(top + height / 2), kind
+        }
+        { gsub(/"[^"]*"|[ )]/, "") }
+        /^BAND_ROW/ { print_row($2, $3, $4, $5, $6, "stop"); print_row($7, $8, $9, $10, $11, "stop") }
+        !/^BAND_ROW/ {
+            is_stop = $2 ~ /^(TextField|PushButton|CheckBox|Listbox)$/ && $9 !~ /^hidden/
+            print_row($3, $5, $6, $7, $8, is_stop ? "stop" : "other")
+        }' frame/mainscreen.def)
 }
 
-same_lines() { # WHAT EXPECTED SEEN
-    diff <(echo "$2") <(echo "$3") >&2 || fail "$1 differ: < is expected, > was seen"
-}
+read_form
 
-# A repeat that the server makes while a key is held has the time stamp of the release before it. So each key goes
-# down some milliseconds after the last one went up: no hand is faster.
+# --- keys
+
+# The server's repeats of a held key have the time stamp of the release before them. So each key goes down some
+# milliseconds after the last one went up, as under a real hand.
 key() { xdotool key --delay 4 "$@"; }
 
 type_text() { xdotool type --delay 4 "$1"; }
@@ -40,7 +53,7 @@ window_in_front() { # TITLE
 
 is_front() { in_front && ((front == $1)); }
 
-# A message box is a window of the program's that has no title of its own.
+# A message box is a window of the program without a title.
 box_in_front() {
     in_front && ((front != main)) && title_of_front && [[ $title == "" || $title == gradeloom ]] &&
         [[ $(xdotool getwindowpid "$front" 2>/dev/null) == "${started[program]}" ]]
@@ -51,8 +64,8 @@ await_box() { # WHAT
     box=$front
 }
 
-# Presses keys on the box in front, and only then: a box takes no key before the keyboard has been quiet for half a
-# second. Nothing on the screen shows when that is over, so this is the one place where the tour waits for a time.
+# A box ignores keys until the keyboard has been quiet for half a second. Nothing on the screen shows when that is
+# over, so this waits for a fixed time.
 press_on_box() { # KEY...
     sleep 0.6
     is_front "$box" || fail "the box was gone before it was answered"
@@ -66,7 +79,7 @@ answer_box() { # KEY...
 
 await_main() { await "the main window in front again" is_front "$main"; }
 
-# Opens something with a key and waits for the window of that title.
+# Opens a window with a key and waits for its title.
 open_with() { # KEY TITLE
     key "$1"
     await "the window $2" window_in_front "$2"
@@ -75,13 +88,6 @@ open_with() { # KEY TITLE
 answer_path() { # PATH
     key ctrl+a
     enter "$1"
-}
-
-# The file is written atomically, but the dialog is gone a moment earlier.
-save_as() { # PATH
-    answer_path "$1"
-    await "the file ${1##*/}" test -s "$1"
-    await_main
 }
 
 # --- the mouse
@@ -98,30 +104,40 @@ measure_menu_bar() {
     ((menu_bar >= 10 && menu_bar <= 60)) || fail "the main window is $HEIGHT high: no room for form and menu bar"
 }
 
-# Does something with the mouse at a point of the main window's form.
+# Moves the mouse to a point of the main window's form and acts there.
 mouse_at() { # X Y WHAT...
     xdotool mousemove --window "$main" "$1" $((menu_bar + $2)) "${@:3}"
 }
 
-click() { mouse_at "$1" "$2" click 1; }
+# shellcheck disable=SC2086 # two numbers
+click() { mouse_at ${middle[$1]} click 1; } # CONTROL
 
-click_total() { click 170 17 && at=0; }
-click_missed() { click 169 48; }
-click_correct() { click 169 81; }
-click_number_correct() { click 20 121; }
-click_save_scale() { click 596 295; }
-click_save_settings() { click 596 370; }
+click_total() { click total; }
+click_save_settings() { click PushButton4; }
 
-windows_shown() { xdotool search --onlyvisible --pid "${started[program]}" 2>/dev/null | wc -l; }
+windows_shown() { { xdotool search --onlyvisible --pid "${started[program]}" 2>/dev/null || true; } | wc -l; }
 
 more_windows_than() { (($(windows_shown) > $1)); }
 
-# Opens the Edit menu by mouse and goes on by keys: Down is its first command, Up its last.
-edit_menu() { # KEY
-    local before
+windows_are() { (($(windows_shown) == $1)); }
+
+# A menu, and whatever else opens and closes without coming to the front.
+opens() { # WHAT COMMAND...
     before=$(windows_shown)
-    xdotool mousemove --window "$main" 55 $((menu_bar / 2)) click 1
-    await "the Edit menu" more_windows_than "$before"
+    "${@:2}"
+    await "$1" more_windows_than "$before"
+}
+
+closes() { # WHAT COMMAND...
+    "${@:2}"
+    await "the end of $1" windows_are "$before"
+}
+
+click_edit() { mouse_at 55 $((-menu_bar / 2)) click 1; }
+
+# Chooses from the Edit menu: the key Down gives its first command, Up its last.
+edit_menu() { # KEY
+    opens "the Edit menu" click_edit
     key "$1" Return
 }
 
@@ -134,14 +150,16 @@ index_of() { # NAME
     fail "no field is called $1"
 }
 
-# Moves the focus with Tab from where it is, or from the first field.
+# Tabs from the first field to a control; in a field Tab selects the text.
 go_to() { # NAME
     index_of "$1"
-    ((at >= 0 && at <= index)) || click_total
+    click_total
     local tabs=()
-    for (( ; at < index; ++at)); do tabs+=(Tab); done
+    for (( ; index > 0; --index)); do tabs+=(Tab); done
     ((${#tabs[@]} == 0)) || key "${tabs[@]}"
 }
+
+marks=0
 
 clipboard() { timeout 5 xclip -selection clipboard -o 2>/dev/null; }
 clipboard_is() { [[ $(clipboard) == "$1" ]]; }
@@ -149,29 +167,35 @@ clipboard_is_not() { [[ $(clipboard) != "$1" ]]; }
 
 to_clipboard() { xclip -selection clipboard >/dev/null 2>&1; }
 
-# Puts a mark on the clipboard, by which a copy is noticed.
+# Puts a text on the clipboard that is no longer there after a copy.
 mark_clipboard() {
     mark="nothing was copied $((++marks))"
     printf %s "$mark" | to_clipboard
     await "the mark on the clipboard" clipboard_is "$mark"
 }
 
-expect_field() { # NAME TEXT
-    go_to "$1"
+# Copies what is selected.
+expect_copy() { # WHAT EXPECTED
     mark_clipboard
     key ctrl+c
-    await "the text of $1 on the clipboard" clipboard_is_not "$mark"
+    await "$1 on the clipboard" clipboard_is_not "$mark"
     same "$1" "$2" "$(clipboard)"
 }
 
-expect_scale() { # 24 numbers
-    local field
-    at=-1
-    for field in "${scale_fields[@]}"; do
-        expect_field "$field" "$1"
-        shift
-    done
+expect_field() { # NAME TEXT
+    go_to "$1"
+    [[ $1 != total ]] || key ctrl+a
+    expect_copy "$1" "$2"
 }
+
+# Reads a result by mouse: the way there by Tab is long. An empty one gives nothing to copy.
+expect_result() { # NAME TEXT
+    click "$1"
+    key ctrl+a
+    expect_copy "$1" "$2"
+}
+
+expect_papers() { expect_result numstudents "$1"; } # COUNT
 
 # --- pictures
 
@@ -179,8 +203,8 @@ photograph() { import -window "$1" "$2"; } # WINDOW FILE
 
 photograph_screen() { [[ -z ${DISPLAY:-} ]] || import -window root build/tour/failure.png; }
 
-# Leaves a picture of a window. It is done when two shots in a row are alike, show more than an empty surface and,
-# if a shot is named, differ from that one.
+# Saves a picture of a window once two shots in a row are alike, show more than an empty surface and differ from the
+# shot UNLIKE.
 picture() { # NAME WINDOW [UNLIKE]
     local file=build/tour/$theme/$1.png
     shot=
@@ -194,7 +218,7 @@ steady() { # FILE WINDOW UNLIKE
     [[ $shot == "$last" && $shot != "$3" ]] && ((${shot#* } > 8))
 }
 
-# How many pixels of a picture have a colour.
+# Prints how many pixels of a picture have a colour.
 count_color() { # FILE COLOR
     convert "$1" -depth 8 -fill black +opaque "rgb($2)" -fill white -opaque "rgb($2)" -format '%[fx:round(mean*w*h)]' info:
 }
