@@ -212,9 +212,8 @@ private slots:
         auto const at = [list](int row) {
             return list->visualRect(list->model()->index(row - 1, 1)).center();
         };
-        for (auto const& [row, modifier, rows] : {
-                 std::tuple(6, Qt::ShiftModifier, "4 5 6"), {6, Qt::ControlModifier, "4 6"}
-        }) {
+        for (auto const& [row, modifier, rows] :
+             {std::tuple(6, Qt::ShiftModifier, "4 5 6"), {6, Qt::ControlModifier, "4 6"}}) {
             QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, at(row));
             QTest::mouseClick(list->viewport(), Qt::LeftButton, modifier, at(4));
             expectCopied(QLatin1String(rows));
@@ -229,10 +228,10 @@ private slots:
         ::Window1().PushButton1_Action();
         for (auto const& [name, window, expected] : {
                  std::tuple("ListBox1", "mainscreen", "Student 1 Percentage 90  %"),
-                 {"ListBox1", "Window1", "Number missed 0 Percentage 100"       },
+                 {"ListBox1", "Window1", "Number missed 0 Percentage 100"},
                  {"ListBox2", "Window1", "Number missed -36 Percentage 65.71429"},
                  {"ListBox5", "Window1", "Number missed -71 Percentage 32.38095"},
-        }) {
+             }) {
             auto* const list = session.widget<QTableView>(name, window);
             session.activate(window);
             list->setFocus(Qt::TabFocusReason);
