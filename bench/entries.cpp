@@ -1,4 +1,5 @@
 #include "bench/measure.h"
+#include "frame/clear_results.h"
 #include "frame/form_state.h"
 #include "platform/qt/doors.h"
 #include "presenter/presenter.h"
@@ -59,11 +60,11 @@ void FillTo(Integer entries)
 {
     class mainscreen& form = ::mainscreen();
     if (EntryCount(form) > entries) {
-        DeleteHistory(form);
+        ClearTalliesAndHistory(form);
     }
     for (Integer entry = EntryCount(form) + 1; entry <= entries; ++entry) {
         form.numstudents().Text(Str(entry));
-        AppendEntry(form, entry, 90.0, 3.0, 90);
+        AppendEntry(form, {entry, 90.0, 3.0, "A-", 90, 90.0 * static_cast<double>(entry)});
     }
     Paint();
 }
