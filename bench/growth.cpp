@@ -75,7 +75,7 @@ void MeasureGrowth()
     QTemporaryDir const folder;
     std::string file = folder.filePath(QStringLiteral("percents")).toStdString();
     PlatformDoors().fileDialog = [&](auto const&) { return file; };
-    PlatformDoors().printDialog = [&](QPrinter& printer, auto&) {
+    PlatformDoors().printDialog = [&](QPrinter& printer, auto, auto&) {
         printer.setOutputFileName(folder.filePath(QStringLiteral("report.pdf")));
         return true;
     };

@@ -7,8 +7,8 @@
 
 class PrintJob;
 
-/// A print job, drawn page by page. One unit is 1/72 inch, counted from the top left corner of the paper. The
-/// destruction of the object ends the job.
+/// A print job, drawn page by page. Coordinates are in 1/72 inch from the top left corner of the paper. The
+/// destructor ends the job.
 class Graphics {
 public:
     explicit Graphics(std::unique_ptr<PrintJob> job);
@@ -16,20 +16,20 @@ public:
     Graphics(Graphics const&) = delete;
     Graphics& operator=(Graphics const&) = delete;
 
-    /// The job failed: the file that it was meant for, if any, and the reason. Called at most once, at the end of
-    /// the job.
+    /// Called by the destructor if the job failed, with the reason. The file name is that of the file it was to
+    /// go to, empty for a printer.
     std::function<void(std::string const& fileName, std::string const& reason)> Failed;
 
-    /// Draws one line of text that starts at x on the base line y, in black, 12 units high. It is never wrapped or
+    /// Draws one line of black text, 12 units high, whose base line starts at (x, y). It can't be wrapped or
     /// condensed: width must be 0 and condense false.
     void DrawString(std::string_view text, double x, double y, double width, bool condense);
-    /// Ends the page; later drawing goes to the next one.
+    /// Starts the next page.
     void NextPage();
 
 private:
     std::unique_ptr<PrintJob> job_;
 };
 
-/// Shows the print dialog for a document of this title. Null if the user cancels, and with the fault if no dialog can
-/// be shown.
-std::unique_ptr<Graphics> OpenPrinterDialog(std::string_view title, std::string& fault);
+/// Shows the print dialog for a document of this title and number of pages. Returns null if the user cancels; if no
+/// dialog can be shown, returns null and sets fault to the reason.
+std::unique_ptr<Graphics> OpenPrinterDialog(std::string_view title, int pages, std::string& fault);
