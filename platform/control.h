@@ -9,20 +9,20 @@
 
 class QWidget;
 
-/// How a control looks. Each kind of control ignores what it has no use for.
+/// How a control looks. Each kind of control ignores what does not apply to it.
 struct ControlStyle {
-    int textSize = 12; ///< height of the font in pixels; 0 leaves it to the platform
+    int textSize = 12; ///< font height in pixels; 0 is the platform's size
     bool bold = false;
     bool visible = true;
     bool enabled = true;
     bool readOnly = false;                ///< text fields only
-    std::optional<Color> background = {}; ///< text fields only; without one a field is white
+    std::optional<Color> background = {}; ///< text fields only; the default is white
 };
 
-/// What a form states of a control. Places are device-independent pixels from the top left of the window's
-/// content, also for a control inside a group box.
+/// What a form states about a control. Coordinates are device-independent pixels from the top left of the window's
+/// content, even inside a group box.
 struct ControlProperties {
-    int tabIndex; ///< order of the keyboard, lowest first, counted within the parent
+    int tabIndex; ///< position in the Tab order of its parent, lowest first
     /// What it shows; for a control that shows no caption, its accessible name.
     std::string_view caption;
     int left;
@@ -32,18 +32,17 @@ struct ControlProperties {
     ControlStyle style;
 };
 
-/// One control of a window. It owns the widget that the user sees and deletes it, so no event comes for a
-/// control that is gone.
+/// A control of a window. It owns its widget, so no event arrives for a deleted control.
 class Control {
 public:
     virtual ~Control();
     Control(Control const&) = delete;
     Control& operator=(Control const&) = delete;
 
-    /// The text that appears while the pointer rests on the control.
+    /// Sets the text shown while the pointer rests on the control.
     void Tooltip(std::string_view text);
 
-    /// Applies what a form states of the control.
+    /// Applies what a form states about the control.
     virtual void Apply(ControlProperties const& properties);
 
     [[nodiscard]] int TabIndex() const { return tabIndex_; }
@@ -53,11 +52,11 @@ protected:
     /// Takes ownership of the widget.
     Control(QWidget* widget, std::string const& name);
 
-    /// Deletes the widget and takes ownership of another one, which gets its name.
+    /// Replaces the widget with another one, of which it takes ownership and which gets its name.
     void Replace(QWidget* widget);
 
-    /// Sets the font that the properties ask for. A bold caption that is too wide for its place, less these
-    /// margins in pixels, is condensed to fit.
+    /// Sets the font. A caption that is bold or of the platform's size is condensed if it is wider than the control
+    /// less these margins, in pixels, and made smaller if that is not enough.
     void ApplyFont(ControlProperties const& properties, int margins);
 
 private:
