@@ -64,7 +64,7 @@ void MeasureGrowth()
     PlatformDoors().fileDialog = [&](auto const&) {
         return folder.filePath(QStringLiteral("percents")).toStdString();
     };
-    PlatformDoors().printDialog = [&](QPrinter& printer, auto&) {
+    PlatformDoors().printDialog = [&](QPrinter& printer, auto, auto&) {
         printer.setOutputFileName(folder.filePath(QStringLiteral("report.pdf")));
         return true;
     };

@@ -2,7 +2,7 @@
 
 #include "platform/control.h"
 
-/// A frame with a caption; the controls inside it are its children.
+/// A frame with a title. It can be the parent of other controls.
 class GroupBox final : public Control {
 public:
     GroupBox(QWidget* parent, std::string const& name);

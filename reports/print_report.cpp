@@ -58,7 +58,7 @@ bool mainscreen::_FilePrint_Action()
         return false;
     }
     std::string fault;
-    std::unique_ptr<Graphics> const page = OpenPrinterDialog(kTitle, fault);
+    std::unique_ptr<Graphics> const page = OpenPrinterDialog(kTitle, entrycount > kRowsOnPage ? 2 : 1, fault);
     if (!fault.empty()) {
         ReportNotPrinted("", fault);
     }

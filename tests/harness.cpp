@@ -85,7 +85,7 @@ TestSession::TestSession(std::vector<Box> boxes) : expectedBoxes_(std::move(boxe
         dialogs.push_back(request);
         return fileToChoose.isEmpty() ? std::nullopt : std::optional(fileToChoose.toStdString());
     };
-    PlatformDoors().printDialog = [this](QPrinter& printer, std::string& fault) {
+    PlatformDoors().printDialog = [this](QPrinter& printer, auto, std::string& fault) {
         dialogs.emplace_back();
         fault = printFault;
         printer.setOutputFileName(fileToChoose);

@@ -172,6 +172,23 @@ private slots:
         QApplication::setFont(usual);
     }
 
+    void captionsOfTheDesktopsSizeFitUpToTwentyPoints()
+    {
+        QFont const usual = QApplication::font();
+        for (int const points : {9, 12, 16, 20}) {
+            QApplication::setFont(QFont(usual.family(), points));
+            TestSession const session;
+            ::Author();
+            QWidget const* const button = session.widget("PushButton1", "Author");
+            QVERIFY(button->fontMetrics().horizontalAdvance("Check for Updates") < button->width() - 8);
+            QCOMPARE(button->fontInfo().pointSize() == points, points <= 16); // larger is too wide at 70 %
+            QWidget const* const box = session.widget("GroupBox2");
+            QVERIFY(box->fontMetrics().height() <= 21);
+            QCOMPARE(box->fontInfo().pointSize() == points, points <= 12);
+        }
+        QApplication::setFont(usual);
+    }
+
     void cleanupTestCase() { UseStyle(u"Fusion"_s, kThemes[0]); }
 
     void everyTextIsLegibleAndEveryStopShowsItsFocus_data()

@@ -191,7 +191,7 @@ private: // NOLINT(readability-redundant-access-specifiers): what follows are no
         PlatformDoors().fileDialog = [this](auto const&) {
             return below(8) == 0 ? std::nullopt : std::optional(anyPath().toStdString());
         };
-        PlatformDoors().printDialog = [this](QPrinter& printer, auto&) {
+        PlatformDoors().printDialog = [this](QPrinter& printer, auto, auto&) {
             printer.setOutputFileName(anyPath());
             return below(4) != 0;
         };

@@ -264,7 +264,7 @@ private slots:
         std::string fault;
         QPrinter printer;
         QVERIFY(ShowMessageBox({"Really?", "", true}) == kNo && !ShowFileDialog({true, "", "", "", ""}) &&
-                !ShowPrintDialog(printer, fault)); // what comes now is not shown
+                !ShowPrintDialog(printer, 1, fault)); // what comes now is not shown
         QCOMPARE(QCoreApplication::applicationName() + QGuiApplication::desktopFileName(),
                  "gradeloomgradeloom"_L1);
         QVERIFY(!QGuiApplication::quitOnLastWindowClosed());

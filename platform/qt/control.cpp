@@ -41,8 +41,10 @@ void Control::ApplyFont(ControlProperties const& properties, int margins)
         font.setPixelSize(properties.style.textSize);
     }
     font.setBold(properties.style.bold);
-    if (properties.style.bold) {
-        font = FittedFont(font, ToQt(properties.caption), properties.width - margins);
+    if (properties.style.bold || properties.style.textSize == 0) {
+        QString const caption = ToQt(properties.caption);
+        QSize const room(properties.width - margins, properties.height);
+        font = SmallerFont(CondensedFont(font, caption, room.width()), caption, room);
     }
     widget_->setFont(font);
 }

@@ -30,7 +30,7 @@ struct Doors {
     /// Returns the path of the chosen file, or nothing if the user cancels.
     std::function<std::optional<std::string>(FileDialogRequest const&)> fileDialog;
     /// Returns false if the user cancels, and with the reason if no dialog can be shown.
-    std::function<bool(QPrinter&, std::string& fault)> printDialog;
+    std::function<bool(QPrinter&, int pages, std::string& fault)> printDialog;
 };
 
 Doors& PlatformDoors();
@@ -41,4 +41,4 @@ Doors& PlatformDoors();
 int ShowMessageBox(MessageBoxRequest const& request);
 void OpenInBrowser(std::string const& address);
 std::optional<std::string> ShowFileDialog(FileDialogRequest const& request);
-bool ShowPrintDialog(QPrinter& printer, std::string& fault);
+bool ShowPrintDialog(QPrinter& printer, int pages, std::string& fault);

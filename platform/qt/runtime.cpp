@@ -8,6 +8,7 @@
 #include "platform/qt/guarded.h"
 #include "platform/qt/system/native.h"
 #include "platform/qt/system/runtime_object.h"
+#include "platform/qt/text.h"
 #include "platform/qt/widgets/accessible_field.h"
 #include "platform/qt/widgets/program.h"
 
@@ -31,7 +32,7 @@ std::optional<int> AnswerCommandLine(int count, char const* const* arguments)
         if (argument == "-session") {
             continue;
         }
-        AttachToStartersConsole();
+        AttachToParentConsole();
         if (argument == "--version") {
             std::cout << PROGRAM_NAME " " PROGRAM_VERSION "\n";
             return EXIT_SUCCESS;
@@ -47,6 +48,19 @@ std::optional<int> AnswerCommandLine(int count, char const* const* arguments)
         return 2;
     }
     return std::nullopt;
+}
+
+/// Handles the toolkit's messages while it starts: without a display it would abort the process.
+void EndWithoutDisplay(QtMsgType type, QMessageLogContext const& context, QString const& text)
+{
+    if (type == QtFatalMsg) {
+        AttachToParentConsole();
+        std::cerr << PROGRAM_NAME ": there is no display that its windows could be shown on\n";
+        std::_Exit(EXIT_FAILURE); // no destructor may use a toolkit that is only half created
+    }
+    if (type == QtDebugMsg) { // switched on by a developer
+        std::cerr << FromQt(qFormatLogMessage(type, context, text)) << '\n';
+    }
 }
 
 /// The icon from where it is installed. Asking for it by its name would read whole icon themes at every start.
@@ -67,7 +81,9 @@ void RuntimeInit(int count, char const* const* arguments)
     if (std::optional<int> const status = AnswerCommandLine(count, arguments)) {
         std::exit(*status);
     }
+    QtMessageHandler const usual = qInstallMessageHandler(EndWithoutDisplay);
     Runtime::instance().start(PROGRAM_NAME);
+    qInstallMessageHandler(usual);
 }
 
 void RuntimePerformInitializers()
@@ -112,7 +128,7 @@ void _InstallExceptionHelper(std::function<void(std::string_view reason)> helper
 
 void _UnhandledException(std::exception_ptr const& exception)
 {
-    AttachToStartersConsole();
+    AttachToParentConsole();
     std::cerr << PROGRAM_NAME << ": " << ReasonOf(exception) << '\n';
     Runtime::instance().exitStatus = 1;
 }

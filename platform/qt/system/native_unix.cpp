@@ -1,12 +1,14 @@
 #include "platform/qt/system/native.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QSocketNotifier>
 
 #include <array>
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 std::string_view const kLineEnd = "\n";
@@ -15,20 +17,36 @@ QString FlushToDisk(int handle)
 {
     while (::fsync(handle) != 0) {
         if (errno != EINTR) {
-            bool const isNeeded = errno != EINVAL && errno != ENOTSUP; // some file systems keep nothing back
+            bool const isNeeded = errno != EINVAL && errno != ENOTSUP; // such file systems have no need of it
             return isNeeded ? qt_error_string(errno) : QString();
         }
     }
     return {};
 }
 
-void AttachToStartersConsole() {} // the streams are connected from the start
+QString KeepGroup(QString const& path, int handle)
+{
+    struct stat old = {};
+    struct stat now = {};
+    if (::stat(QFile::encodeName(path), &old) != 0 || ::fstat(handle, &now) != 0 ||
+        old.st_gid == now.st_gid) {
+        return {};
+    }
+    mode_t mode = old.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO);
+    if (::fchown(handle, now.st_uid, old.st_gid) != 0) {
+        constexpr int kFromOthersToGroup = 3; // bits
+        mode &= ~static_cast<mode_t>(S_IRWXG) | ((mode & S_IRWXO) << kFromOthersToGroup);
+    }
+    return ::fchmod(handle, mode) == 0 ? QString() : qt_error_string(errno);
+}
+
+void AttachToParentConsole() {} // the streams are connected from the start
 
 namespace {
 
-std::array<int, 2> signalPipe = {-1, -1}; // the end to read from, the end to write to
+std::array<int, 2> signalPipe = {-1, -1}; // read end, write end
 
-/// A signal may come at any moment, so all that its handler does is to wake the event loop.
+/// A signal can arrive at any moment, so its handler does no more than wake the event loop.
 extern "C" void WakeEventLoop(int /*signal*/)
 {
     int const saved = errno;
@@ -41,7 +59,7 @@ void Install(int signal, void (*handler)(int))
 {
     struct sigaction old = {};
     ::sigaction(signal, nullptr, &old);
-    if (old.sa_handler == SIG_IGN) { // started so that it outlives its terminal
+    if (old.sa_handler == SIG_IGN) { // started with nohup, for one
         return;
     }
     struct sigaction action = {};

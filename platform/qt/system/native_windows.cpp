@@ -9,7 +9,7 @@
 
 namespace {
 
-bool LeadsNowhere(DWORD stream)
+bool IsUnconnected(DWORD stream)
 {
     return GetFileType(GetStdHandle(stream)) == FILE_TYPE_UNKNOWN;
 }
@@ -23,16 +23,22 @@ QString FlushToDisk(int handle)
     return _commit(handle) == 0 ? QString() : qt_error_string(static_cast<int>(_doserrno));
 }
 
-/// There are no such signals here.
+/// On Windows permissions are access lists, which a file inherits from its folder.
+QString KeepGroup(QString const& /*path*/, int /*handle*/)
+{
+    return {};
+}
+
+/// Windows has no such signals.
 void HandleSignals(std::function<void()> const& /*end*/) {}
 
-void AttachToStartersConsole()
+void AttachToParentConsole()
 {
-    // Asked first: once attached, both lead somewhere, but the C++ streams would not know.
-    bool const needsOutput = LeadsNowhere(STD_OUTPUT_HANDLE);
-    bool const needsError = LeadsNowhere(STD_ERROR_HANDLE);
+    // Asked before attaching, which connects both handles, but not the C++ streams.
+    bool const needsOutput = IsUnconnected(STD_OUTPUT_HANDLE);
+    bool const needsError = IsUnconnected(STD_ERROR_HANDLE);
     if (AttachConsole(ATTACH_PARENT_PROCESS) == FALSE) {
-        return; // started by a click
+        return; // not started from a console
     }
     if (needsOutput) {
         (void)std::freopen("CONOUT$", "w", stdout);

@@ -8,17 +8,18 @@
 
 namespace {
 
-/// The file system's reason, or ours where its own would mislead.
+/// Returns the file system's reason, or ours where that would mislead.
 QString Explain(QString const& path, QString const& reason)
 {
-    constexpr int kMaxName = 248; // bytes; the temporary beside the file needs seven more, of 255
+    constexpr int kMaxName = 248; // bytes; the temporary file's name has seven more, and 255 is the limit
     if (QFile::encodeName(QFileInfo(path).fileName()).size() > kMaxName) {
         return QStringLiteral("its name is too long");
     }
     return reason;
 }
 
-/// Writes and flushes. Left to itself the toolkit would notice a full disk only after the old file is gone.
+/// Writes and flushes the bytes. Without the flush the toolkit would notice a full disk only after replacing the old
+/// file.
 QString WriteAll(QSaveFile& file, QByteArrayView bytes)
 {
     qint64 const written = file.write(bytes.data(), bytes.size());
@@ -33,15 +34,18 @@ QString WriteAll(QSaveFile& file, QByteArrayView bytes)
 
 QString ReplaceFile(QString const& path, QByteArrayView bytes)
 {
-    QFileInfo const place(path);
-    if (place.exists() && !place.isFile()) {
+    QFileInfo const old(path);
+    if (old.exists() && !old.isFile()) {
         return QStringLiteral("it is not a plain file");
     }
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         return Explain(path, file.errorString());
     }
-    QString const fault = WriteAll(file, bytes);
+    QString fault = KeepGroup(path, file.handle());
+    if (fault.isEmpty()) {
+        fault = WriteAll(file, bytes);
+    }
     if (!fault.isEmpty()) {
         file.cancelWriting();
         return Explain(path, fault);

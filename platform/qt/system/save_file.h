@@ -3,6 +3,6 @@
 #include <QByteArrayView>
 #include <QString>
 
-/// Replaces a file by these bytes atomically: until the last byte is on the disk the old file is there. A link stays
-/// a link, permissions stay. Returns the reason of a failure, empty if there was none.
+/// Replaces a file's content atomically: the old file stays until the last byte is on the disk. A symbolic link stays
+/// a link; KeepGroup says what becomes of group and permissions. Returns the reason for a failure, or an empty string.
 QString ReplaceFile(QString const& path, QByteArrayView bytes);

@@ -34,7 +34,7 @@ void LineEdit::writeByProgram(QString const& text)
 {
     setTextQuietly(text);
     if (isReadOnly()) {
-        QFont const fitted = FittedFont(font(), text, width() - kFrame);
+        QFont const fitted = CondensedFont(font(), text, width() - kFrame);
         if (fitted != font()) {
             setFont(fitted);
         }
