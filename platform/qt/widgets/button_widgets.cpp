@@ -22,8 +22,9 @@ CheckBoxWidget::CheckBoxWidget(QWidget* parent) : QCheckBox(parent)
     setFocusPolicy(Qt::TabFocus);
     connect(this, &QCheckBox::toggled, this, [this](bool isOn) {
         if (IsDialogOpen()) {
-            QSignalBlocker const unnoticed(this);
+            blockSignals(true);
             setChecked(!isOn);
+            blockSignals(false);
         }
     });
 }
