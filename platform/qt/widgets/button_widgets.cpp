@@ -9,8 +9,9 @@ CheckBoxWidget::CheckBoxWidget(QWidget* parent) : FormButton(parent)
 {
     connect(this, &QCheckBox::toggled, this, [this](bool isOn) {
         if (IsDialogOpen()) {
-            QSignalBlocker const unnoticed(this);
+            blockSignals(true);
             setChecked(!isOn);
+            blockSignals(false);
         }
     });
 }
