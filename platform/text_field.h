@@ -9,19 +9,21 @@ class TextField final : public Control {
 public:
     TextField(QWidget* parent, std::string const& name);
 
-    /// A key is about to reach the field: the key as text, or its name if it has none. True consumes it.
-    /// Tab, Return, modifier keys alone and menu shortcuts don't come here.
+    /// Raised before a key reaches the field, with the text that it types, or its name if it types none. Returns true
+    /// to consume it. Not raised for Tab, Return, menu shortcuts and modifier keys alone.
     std::function<bool(TextField&, std::string const& key)> KeyDown;
-    /// The field became the focused control of its window, by a move of the focus inside the window.
+    /// Raised when the window's focus moves here from another control, not when the window itself gets it back.
     std::function<void(TextField&)> GotFocus;
-    /// The user has changed the text. A write by the program raises nothing.
+    /// Raised after the user has changed the text, not after a write by the program.
     std::function<void(TextField&)> TextChange;
 
     [[nodiscard]] std::string Text() const;
-    /// Replaces the whole text; the cursor is then at its end (in a read-only field at its start).
+    /// Replaces the whole text. In the editable field that has the focus it is then selected, so that typing replaces
+    /// it; when TextChange of the same field writes it, and in other fields, the cursor is at its end instead, in a
+    /// read-only field at its start.
     void Text(std::string_view text);
 
-    /// Limits what a user can put in, by whatever way, to so many characters. Program writes stay whole.
+    /// Limits what a user can enter, in any way, to this many characters. Writes by the program are not cut.
     void MaximumCharactersAllowed(int count);
 
     void Apply(ControlProperties const& properties) override;

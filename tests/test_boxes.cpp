@@ -122,7 +122,7 @@ private slots:
         QVERIFY(AnswerTo(true, [](QMessageBox& box, QTimer const& /*quiet*/) { box.close(); }) == kNo);
     }
 
-    void theNoticeComesBeforeTheNextKeyAndLosesNone()
+    void noticesComeBeforeTheNextKeyAndLoseNoKeyAndNoSelection()
     {
         TestSession const session;
         session.play("filepresent");
@@ -149,6 +149,13 @@ private slots:
         session.play("write aplusmin=96; focus amax; key Tab; key Tab");
         QTRY_COMPARE(boxes, 2);
         QCOMPARE(session.field("aminusmax")->selectedText(), "92"_L1);
+        // Two notices in a row, before the click that moved the focus is over.
+        session.activate();
+        session.setFields("aminusmax=94 bplusmin=0 bmax=-1");
+        QTest::mousePress(session.widget("bmax"), Qt::LeftButton);
+        session.form().PushButton2().Action();
+        QCOMPARE(boxes, 4);
+        QCOMPARE(session.field("bmax")->selectedText(), "-1"_L1);
     }
 };
 

@@ -35,7 +35,15 @@ constexpr Qt::Key kSilentKeys[] = {
 Scenario const kActs[] = {
     {"Tab starts at the points, goes round and selects all", "keys 3; key Tab; keys 4; focus PushButton4; "
      "key Tab; key 5", {}, "total=5 missed=4"},
-    {"a write ends with the cursor behind its text", "focus total; write total=12; keys 3", {}, "total=123"},
+    {"typing replaces what is written into the focused field", "focus total; write total=12; keys 3", {}, "total=3"},
+    {"typing replaces the number correct that was written", "total=40; focus correct; keys 38; key Return; checkcorrect; "
+     "keys 38; key Return", {}, "percentage=95 numstudents=2"},
+    {"a click into a field selects what was written there", "total=40; missed=4 Return; checkcorrect; correct; keys 38; "
+     "key Return", {}, "percentage=95 numstudents=2"},
+    {"the next click places the cursor", "amin; amin; keys 5", {}, "amin=935"},
+    {"a click on the focused field places it too", "focus amin; amin; keys 5", {}, "amin=935"},
+    {"a text that is put back has the cursor behind it", "total=40; missed=3 Return; focus bmax; key 5; keys 6",
+     {{kDeletesData, kNo}, {kDeletesData, kNo}}, "bmax=876"},
     {"a pasted text becomes one line", "focus total; paste \r\n1\r\n2\n\n3\u2028\u2029" "4\n", {}, "total=1 2  3  4"},
     {"the limit holds for keys", "amax=1234", {}, "amax=123"},
     {"the limit holds for AltGr", "amax=123; key Ctrl+Alt+4", {}, "amax=123"},
@@ -195,7 +203,7 @@ private slots:
         QVERIFY(result->cursorPosition() == 0 && result->selectedText() == nines);
         session.play("key Right");
         QVERIFY(result->cursorPosition() == 0 && !result->hasSelectedText());
-        session.play("focus total");
+        session.play("key Shift+Right; focus total");
         QVERIFY(result->cursorPosition() == 0 && !result->hasSelectedText());
         int const needed = result->fontMetrics().horizontalAdvance(nines) + 8; // with its border
         for (int const width : {needed, needed - 1}) {

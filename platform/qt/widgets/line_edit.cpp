@@ -41,6 +41,8 @@ void LineEdit::writeByProgram(QString const& text)
         }
         setCursorPosition(0);
         setToolTip(fontMetrics().horizontalAdvance(text) + kFrame > width() ? text : QString());
+    } else if (window()->focusWidget() == this && !isReportingChange()) {
+        selectAll();
     }
 }
 
@@ -50,6 +52,19 @@ void LineEdit::showStart()
     if (cursorPosition() != 0) {
         auto const length = static_cast<int>(text().size());
         setSelection(length, -length);
+    }
+}
+
+void LineEdit::enter()
+{
+    selectsAfterClick_ = !isReadOnly() && QGuiApplication::mouseButtons() == Qt::LeftButton;
+}
+
+/// A drag has selected what it covers, which stays.
+void LineEdit::endClick()
+{
+    if (std::exchange(selectsAfterClick_, false) && !hasSelectedText()) {
+        selectAll();
     }
 }
 
@@ -67,15 +82,20 @@ bool LineEdit::event(QEvent* event)
         auto* const key = static_cast<QKeyEvent*>(event);
         QAction const* const action = MenuAction::of(*window(), *key);
         if (action != nullptr && action->isEnabled()) {
-            // The one key that the field keeps from the menu: undoing what was just typed.
+            // The only shortcut that the field takes from the menu: undoing what was just typed.
             event->setAccepted(key->matches(QKeySequence::Undo) && canUndoTyping());
             return true;
         }
     }
+    if (event->type() == QEvent::WindowActivate) {
+        // A moment later the toolkit's line edit would deselect its text, since a second message box may have the focus
+        // by then.
+        return QWidget::event(event); // NOLINT(bugprone-parent-virtual-call)
+    }
     return QLineEdit::event(event);
 }
 
-/// A walk through the menu bar by key leaves the selection as it is, as one by mouse does.
+/// Opening a menu from the keyboard keeps the selection, as opening it with the mouse does.
 void LineEdit::focusInEvent(QFocusEvent* event)
 {
     bool const fromMenu = event->reason() == Qt::MenuBarFocusReason;
@@ -85,6 +105,7 @@ void LineEdit::focusInEvent(QFocusEvent* event)
 
 void LineEdit::focusOutEvent(QFocusEvent* event)
 {
+    endClick(); // a message box takes the focus, and the release of the button
     bool const toMenu = event->reason() == Qt::MenuBarFocusReason;
     QFocusEvent left(event->type(), toMenu ? Qt::PopupFocusReason : event->reason());
     QLineEdit::focusOutEvent(&left);
@@ -98,7 +119,7 @@ void LineEdit::keyPressEvent(QKeyEvent* event)
     }
     QPointer<LineEdit> const field(this);
     bool const raisesKeyDown = IsKeyOfItsOwn(*event) && MenuAction::of(*window(), *event) == nullptr;
-    if ((raisesKeyDown && isConsumed(KeyText(*event))) || field.isNull()) {
+    if ((raisesKeyDown && raiseKeyDown(KeyText(*event))) || field.isNull()) {
         return;
     }
     typeKey(event);
@@ -107,8 +128,8 @@ void LineEdit::keyPressEvent(QKeyEvent* event)
     }
 }
 
-/// The handler may close the window of the field.
-bool LineEdit::isConsumed(QString const& key)
+/// Returns true if the key is consumed. The handler may close the field's window.
+bool LineEdit::raiseKeyDown(QString const& key)
 {
     return keyDown && keyDown(key);
 }
@@ -126,7 +147,7 @@ void LineEdit::typeKey(QKeyEvent* event)
         pasteFrom(fromSelection ? QClipboard::Selection : QClipboard::Clipboard);
     } else if (!TypesText(*event) || room() >= event->text().size()) {
         if (!event->text().isEmpty() || event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace) {
-            beginTyping();
+            clearSealedHistory();
         }
         runUserAct([&] { QLineEdit::keyPressEvent(event); });
     }
@@ -148,13 +169,13 @@ void LineEdit::inputMethodEvent(QInputMethodEvent* event)
     }
     bool const isComposing = !event->preeditString().isEmpty();
     bool const changes = !event->commitString().isEmpty() || event->replacementLength() > 0 ||
-                         (isComposing && hasSelectedText()); // which a composition takes the place of
+                         (isComposing && hasSelectedText()); // which the composition replaces
     QPointer<LineEdit> const field(this);
-    if ((changes && isConsumed(event->commitString())) || field.isNull()) {
+    if ((changes && raiseKeyDown(event->commitString())) || field.isNull()) {
         return;
     }
     if (changes) {
-        beginTyping();
+        clearSealedHistory();
     }
     QInputMethodEvent limited(event->preeditString(), event->attributes());
     limited.setCommitString(fitted(event->commitString(), event->replacementLength()),
@@ -170,10 +191,13 @@ void LineEdit::mouseReleaseEvent(QMouseEvent* event)
         pasteFrom(QClipboard::Selection);
         return;
     }
-    QLineEdit::mouseReleaseEvent(event);
+    QLineEdit::mouseReleaseEvent(event); // copies what a drag has selected to the primary selection
+    if (event->button() == Qt::LeftButton) {
+        endClick();
+    }
 }
 
-/// The toolkit's own menu would change the text past the field's limit, and keep line breaks.
+/// The toolkit's own menu would paste beyond the field's limit, and line breaks too.
 void LineEdit::contextMenuEvent(QContextMenuEvent* event)
 {
     auto* const menu = new QMenu(this);
@@ -199,8 +223,7 @@ void LineEdit::contextMenuEvent(QContextMenuEvent* event)
     menu->popup(event->globalPos());
 }
 
-/// The drop is carried out a moment later: the program may answer it with a message box, for which the other
-/// program would have to wait.
+/// The drop runs from the event loop: it may open a message box, and the other program would have to wait for that.
 void LineEdit::dropEvent(QDropEvent* event)
 {
     QDragLeaveEvent leave;
@@ -229,7 +252,7 @@ void LineEdit::repeatEdit(QString const& text)
 {
     QPointer<LineEdit> const field(this);
     takeFocus();
-    if (field.isNull() || isConsumed(text) || field.isNull()) {
+    if (field.isNull() || raiseKeyDown(text) || field.isNull()) {
         return;
     }
     selectAll();

@@ -4,20 +4,23 @@
 
 #include <QClipboard>
 
-/// The widget of a text field: it takes keys, pastes, drops, input methods and edits of assistive programs, and leaves
-/// the keys of the window and of the menu bar to them.
+/// The widget of a text field. It handles keys, paste, drops, input methods and edits by assistive programs, and
+/// leaves the keys of the window and the menu bar alone.
 class LineEdit final : public TrackedLineEdit {
 public:
     explicit LineEdit(QWidget* parent);
 
-    /// Before a key, or a text that an input method commits, reaches the field; true consumes it.
+    /// Called before a key, or a text that an input method commits, reaches the field; true consumes it.
     std::function<bool(QString const& key)> keyDown;
     std::function<void()> gotFocus;  ///< called by FocusOrder
-    std::function<void()> takeFocus; ///< moves the focus here, gotFocus included, for a drop and the like
+    std::function<void()> takeFocus; ///< moves the focus here and calls gotFocus at once
 
+    /// Replaces the text. In the field that has the focus it is selected, so that typing replaces it.
     void writeByProgram(QString const& text);
 
-    /// Another control of the window gains the focus: nothing stays selected here.
+    /// The window's focus moves here from another control. If a click moves it, the text is selected after the click.
+    void enter();
+    /// The window's focus moves to another control. Nothing stays selected here.
     void leave();
 
     void pasteFrom(QClipboard::Mode mode);
@@ -33,9 +36,12 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    [[nodiscard]] bool isConsumed(QString const& key);
+    [[nodiscard]] bool raiseKeyDown(QString const& key);
     void typeKey(QKeyEvent* event);
     void takeDrop(QString const& text, int position);
     void repeatEdit(QString const& text);
     void showStart();
+    void endClick();
+
+    bool selectsAfterClick_ = false; ///< the click that moved the focus here is not over
 };

@@ -108,6 +108,7 @@ void TopLevel::noteFocus(QWidget* control)
     focusFrame_->setPalette(content_->palette());
     MenuAction::endIgnoring();
     if (auto* const field = dynamic_cast<LineEdit*>(control)) {
+        field->enter();
         FocusOrder::instance().add(field, field->gotFocus);
     }
     bringMenuBarUpToDate();
@@ -129,7 +130,7 @@ void TopLevel::beginCommand()
 {
     MenuAction::endIgnoring();
     for (QLineEdit* const field : content_->findChildren<QLineEdit*>()) {
-        static_cast<LineEdit*>(field)->endTyping();
+        static_cast<LineEdit*>(field)->sealUndoHistory();
     }
 }
 

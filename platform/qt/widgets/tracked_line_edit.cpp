@@ -32,12 +32,12 @@ void TrackedLineEdit::setTextQuietly(QString const& text)
     bool const wasWriting = std::exchange(isWriting_, true);
     lastText_ = text;
     setText(text);
-    isTypingOver_ = false; // the history is empty now
+    isHistorySealed_ = false; // the history is empty now
     isWriting_ = wasWriting;
 }
 
-/// What the user may not change is restored for good; elsewhere the edit is repeated a moment later as the user's
-/// own, once the other program has its answer.
+/// Where the user can't type, the edit is just taken back. Elsewhere it is repeated as typing, from the event loop, so
+/// that the assistive program has its answer first.
 void TrackedLineEdit::redirectEdit()
 {
     QString const wanted = text();
@@ -52,8 +52,13 @@ void TrackedLineEdit::reportChange()
     if (text() != lastText_) {
         lastText_ = text();
         MenuAction::endIgnoring();
+        QPointer<TrackedLineEdit> const field(this);
+        isReporting_ = true;
         if (userChange) {
             userChange();
+        }
+        if (field != nullptr) {
+            isReporting_ = false;
         }
     }
 }
@@ -63,7 +68,7 @@ qsizetype TrackedLineEdit::room() const
     return limit_ - (text().size() - selectedText().size());
 }
 
-/// Line breaks at the text's ends are dropped, those inside become blanks.
+/// Drops line breaks at the ends; those inside become blanks.
 QString TrackedLineEdit::fitted(QString text, qsizetype replaced) const
 {
     static QRegularExpression const atEnds(
@@ -80,28 +85,28 @@ QString TrackedLineEdit::fitted(QString text, qsizetype replaced) const
 
 void TrackedLineEdit::insertByUser(QString const& text)
 {
-    beginTyping();
+    clearSealedHistory();
     runUserAct([&] { insert(fitted(text)); });
 }
 
 void TrackedLineEdit::removeSelection()
 {
     if (!isReadOnly() && hasSelectedText()) {
-        beginTyping();
+        clearSealedHistory();
         runUserAct([this] { del(); });
     }
 }
 
-void TrackedLineEdit::endTyping()
+void TrackedLineEdit::sealUndoHistory()
 {
-    isTypingOver_ = isUndoAvailable() || isRedoAvailable();
+    isHistorySealed_ = isUndoAvailable() || isRedoAvailable();
 }
 
-/// Empties a history from before a command. Only now, since writing the text again is the toolkit's one way to do it,
-/// and a screen reader would read the text aloud.
-void TrackedLineEdit::beginTyping()
+/// The toolkit can empty the history only by writing the text again, which a screen reader reads aloud. So this is done
+/// when the user changes the text anyway, not when the history is sealed.
+void TrackedLineEdit::clearSealedHistory()
 {
-    if (!isTypingOver_) {
+    if (!isHistorySealed_) {
         return;
     }
     int const cursor = cursorPosition();
@@ -126,7 +131,7 @@ void TrackedLineEdit::undoTyping()
 
 void TrackedLineEdit::redoTyping()
 {
-    if (!isTypingOver_) {
+    if (!isHistorySealed_) {
         runUserAct([this] { redo(); });
     }
 }
