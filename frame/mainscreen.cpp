@@ -80,9 +80,6 @@ void mainscreen::CreateControls()
 #define SCALE_FIELD(name, defaultValue) name().Text(#defaultValue);
 #include "frame/bands.def"
 
-#define LABEL_OF(label, control) label().LabelFor(control());
-#include "frame/mainscreen.def"
-
     ListBox1().ColumnCount(2);
     ListBox1().SpokenHeaders("Student,Percentage");
     ListBox1().RowSelectionType(1);

@@ -46,7 +46,6 @@ void Window1::Layout()
 void Window1::CreateControls()
 {
     _CreateControls0();
-    StaticText6().LabelFor(EditField1());
     for (Listbox* const list : {&ListBox1(), &ListBox2(), &ListBox5()}) {
         list->SpokenHeaders("Number missed,Percentage");
     }

@@ -15,11 +15,6 @@ void Label::Apply(ControlProperties const& properties)
     label.setText(ToQt(properties.caption).replace(u'\r', u'\n'));
 }
 
-void Label::LabelFor(Control const& control)
-{
-    static_cast<QLabel&>(Widget()).setBuddy(&control.Widget());
-}
-
 void Label::Multiline()
 {
     static_cast<QLabel&>(Widget()).setAlignment(Qt::AlignHCenter | Qt::AlignTop);

@@ -8,8 +8,10 @@
 #include "platform/qt/guarded.h"
 #include "platform/qt/system/native.h"
 #include "platform/qt/system/runtime_object.h"
+#include "platform/qt/widgets/accessible_field.h"
 #include "platform/qt/widgets/focus_order.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QIcon>
 #include <QStandardPaths>
@@ -91,6 +93,7 @@ void RuntimePerformInitializers()
     QApplication::setWindowIcon(InstalledIcon());
     QApplication::setQuitOnLastWindowClosed(false); // Window::Close ends the process, on every platform
     QApplication::styleHints()->setTabFocusBehavior(Qt::TabFocusAllControls);
+    QAccessible::installFactory(MakeAccessibleField);
     new FocusOrder(qApp);
     qApp->installEventFilter(new QuitFilter(qApp));
     HandleSignals([] { Runtime::instance().end(); });
