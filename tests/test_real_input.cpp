@@ -89,12 +89,17 @@ private slots:
         TestSession const session;
         session.type("total", "30");
         auto const interval = static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
-        for (quint64 const time : {quint64{0}, interval - 1, 2 * (interval - 1), 3 * interval}) {
-            ClickAt(session.widget("PushButton1"), 1000 + time);
+        quint64 const start = 10'000;
+        for (quint64 const time : {quint64{0}, interval / 2, interval - 1, interval, 2 * interval - 1}) {
+            ClickAt(session.widget("PushButton1"), start + time);
         }
-        session.expectFields("numstudents=2"); // one more by the last click
-        ClickAt(session.widget("checkcorrect"), 5000);
-        ClickAt(session.widget("checkcorrect"), 5100);
+        session.expectFields("numstudents=2"); // one more when the interval is over
+        for (quint64 click = 1; click <= 10; ++click) {
+            ClickAt(session.widget("PushButton1"), 2 * start + click * interval * 33 / 40);
+        }
+        session.expectFields("numstudents=7"); // every second one
+        ClickAt(session.widget("checkcorrect"), 50'000);
+        ClickAt(session.widget("checkcorrect"), 50'100);
         QVERIFY(!session.form().checkcorrect().Value());
     }
 
@@ -170,6 +175,28 @@ private slots:
 #endif
     }
 
+    void assistiveProgramsReadAFieldByItsNameAndToItsLastDigit()
+    {
+        TestSession const session;
+        session.play("write amin=1234");
+        QAccessibleTextInterface* const text =
+            QAccessible::queryAccessibleInterface(session.widget("amin"))->textInterface();
+        for (int i = 0; i < text->characterCount(); ++i) {
+            QCOMPARE(text->offsetAtPoint(text->characterRect(i).topLeft() + QPoint(1, 1)), i);
+        }
+        int start = 0;
+        int end = 0;
+        text->attributes(0, &start, &end);
+        QCOMPARE(text->text(start, end), "1234"_L1);
+        text->setSelection(0, 1, 3);
+        text->selection(0, &start, &end);
+        QCOMPARE(text->text(start, end), "23"_L1);
+        QCOMPARE(text->textAtOffset(4, QAccessible::WordBoundary, &start, &end),
+                 "1234"_L1);                             // and returns at all
+        QWidget* const tally = session.widget("agrade"); // the title of its group box is no name
+        QVERIFY(QAccessible::queryAccessibleInterface(tally)->relations(QAccessible::Label).isEmpty());
+    }
+
     void anAssistiveEditIsAnsweredFirstAndThenTyped()
     {
         TestSession const session;
@@ -179,6 +206,17 @@ private slots:
         QCoreApplication::processEvents();
         session.expectFields("missed=5");
         QCOMPARE(QApplication::focusWidget(), missed);
+    }
+
+    void aDragSelectsWhatItCovers()
+    {
+        TestSession const session;
+        session.setFields("amin=123456");
+        QLineEdit* const field = session.field("amin");
+        QTest::mousePress(field, Qt::LeftButton, {}, QPoint(3, 10));
+        QTest::mouseMove(field, QPoint(25, 10));
+        QTest::mouseRelease(field, Qt::LeftButton, {}, QPoint(25, 10));
+        QVERIFY(field->hasSelectedText() && field->selectedText() != field->text());
     }
 };
 

@@ -7,10 +7,10 @@
 
 namespace {
 
-constexpr int kButtonMargins = 8; // pixels, left and right of the caption
+constexpr int kButtonMargins = 8;
 constexpr int kCheckMargins = 20; // the box is left of the caption
 
-/// Makes an action a command of the button's window. A double click runs it once.
+/// Runs the action as a command of the button's window, once for a double click.
 PushButtonWidget& ConnectAction(Control const& control, std::function<void()> const& action)
 {
     auto& button = static_cast<PushButtonWidget&>(control.Widget());
@@ -26,10 +26,23 @@ PushButtonWidget& ConnectAction(Control const& control, std::function<void()> co
 
 } // namespace
 
-PushButton::PushButton(QWidget* parent, std::string const& name) : Control(new PushButtonWidget(parent), name)
+Button::Button(QWidget* widget, std::string const& name, int margins)
+    : Control(widget, name), margins_(margins)
 {
-    ConnectAction(*this, Action).mouseDown = [this](QPoint place) {
-        return Raise(MouseDown, *this, place.x(), place.y());
+}
+
+void Button::Apply(ControlProperties const& properties)
+{
+    Control::Apply(properties);
+    ApplyFont(properties, margins_);
+    static_cast<QAbstractButton&>(Widget()).setText(ToQt(properties.caption));
+}
+
+PushButton::PushButton(QWidget* parent, std::string const& name)
+    : Button(new PushButtonWidget(parent), name, kButtonMargins)
+{
+    ConnectAction(*this, Action).mouseDown = [this](QPoint position) {
+        return Raise(MouseDown, *this, position.x(), position.y());
     };
 }
 
@@ -42,36 +55,18 @@ void PushButton::Default(bool isDefault)
     }
 }
 
-void PushButton::Apply(ControlProperties const& properties)
-{
-    Control::Apply(properties);
-    ApplyFont(properties, kButtonMargins);
-    static_cast<QPushButton&>(Widget()).setText(ToQt(properties.caption));
-}
-
 BevelButton::BevelButton(QWidget* parent, std::string const& name)
-    : Control(new PushButtonWidget(parent), name)
+    : Button(new PushButtonWidget(parent), name, kButtonMargins)
 {
     ConnectAction(*this, Action).setFocusPolicy(Qt::NoFocus);
 }
 
-void BevelButton::Apply(ControlProperties const& properties)
+CheckBox::CheckBox(QWidget* parent, std::string const& name)
+    : Button(new CheckBoxWidget(parent), name, kCheckMargins)
 {
-    Control::Apply(properties);
-    ApplyFont(properties, kButtonMargins);
-    static_cast<QPushButton&>(Widget()).setText(ToQt(properties.caption));
 }
-
-CheckBox::CheckBox(QWidget* parent, std::string const& name) : Control(new CheckBoxWidget(parent), name) {}
 
 bool CheckBox::Value() const
 {
     return static_cast<QCheckBox const&>(Widget()).isChecked();
-}
-
-void CheckBox::Apply(ControlProperties const& properties)
-{
-    Control::Apply(properties);
-    ApplyFont(properties, kCheckMargins);
-    static_cast<QCheckBox&>(Widget()).setText(ToQt(properties.caption));
 }

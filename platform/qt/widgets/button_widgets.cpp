@@ -6,49 +6,16 @@
 #include <QGuiApplication>
 #include <QStyleHints>
 
-namespace {
-
-/// Keys that are no press of the button: Return, which is the window's, and repeats.
-bool IsForOthers(QKeyEvent const& event)
+bool IsLeftToWindow(QKeyEvent const& event)
 {
     return IsReturn(event) || (event.key() == Qt::Key_Space && IsRepeat(event));
-}
-
-} // namespace
-
-CheckBoxWidget::CheckBoxWidget(QWidget* parent) : QCheckBox(parent)
-{
-    setFocusPolicy(Qt::TabFocus);
-}
-
-void CheckBoxWidget::keyPressEvent(QKeyEvent* event)
-{
-    if (IsForOthers(*event)) {
-        event->ignore();
-    } else {
-        QCheckBox::keyPressEvent(event);
-    }
-}
-
-PushButtonWidget::PushButtonWidget(QWidget* parent) : QPushButton(parent)
-{
-    setFocusPolicy(Qt::TabFocus);
-}
-
-void PushButtonWidget::keyPressEvent(QKeyEvent* event)
-{
-    if (IsForOthers(*event)) {
-        event->ignore();
-    } else {
-        QPushButton::keyPressEvent(event);
-    }
 }
 
 void PushButtonWidget::mousePressEvent(QMouseEvent* event)
 {
     bool const isLeft = event->button() == Qt::LeftButton;
-    bool const isKept = isLeft && mouseDown && mouseDown(event->position().toPoint());
-    if (!isKept && !(isLeft && followsPress(*event))) {
+    bool const isHandled = isLeft && mouseDown && mouseDown(event->position().toPoint());
+    if (!isHandled && !(isLeft && isTooSoon(*event))) {
         QPushButton::mousePressEvent(event);
     }
 }
@@ -58,11 +25,15 @@ void PushButtonWidget::mouseDoubleClickEvent(QMouseEvent* event)
     mousePressEvent(event);
 }
 
-/// The press belongs to a double or triple click that has acted already.
-bool PushButtonWidget::followsPress(QMouseEvent const& event)
+/// Whether the press belongs to a double or triple click that has acted already. What the toolkit calls a double click
+/// does not tell: it counts from the press before, even if that one did nothing.
+bool PushButtonWidget::isTooSoon(QMouseEvent const& event)
 {
     auto const interval = static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
-    quint64 const last = std::exchange(lastPress_, event.timestamp());
-    bool const isSoon = last != 0 && event.timestamp() - last < interval;
-    return hasAction && hasAction() && (isSoon || event.type() == QEvent::MouseButtonDblClick);
+    bool const isSoon = lastPress_ != 0 && event.timestamp() - lastPress_ < interval;
+    if (isSoon && hasAction && hasAction()) {
+        return true;
+    }
+    lastPress_ = event.timestamp();
+    return false;
 }
