@@ -87,8 +87,9 @@ bool LineEdit::event(QEvent* event)
         }
     }
     if (event->type() == QEvent::WindowActivate) {
-        // By the time that the toolkit acts on this a second message box may have the focus, and it would deselect the text.
-        return QWidget::event(event);
+        // A moment later the toolkit's line edit would deselect its text, since a second message box may have the focus
+        // by then.
+        return QWidget::event(event); // NOLINT(bugprone-parent-virtual-call)
     }
     return QLineEdit::event(event);
 }
