@@ -200,7 +200,7 @@ visit_list_keys() {
     go_to ListBox1
     while read -r keys rows; do
         # shellcheck disable=SC2086 # several words
-        { key ${keys//,/ } && expect_rows "$keys" $rows; }
+        key "$keys" && expect_rows "$keys" $rows
     done <<<"Down 1
              Down 2
              Home 1
