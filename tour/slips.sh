@@ -74,7 +74,7 @@ visit_stray_keys() {
     for delay in 30 250; do
         for keys in "9 Tab Return" "9 Tab space" "Left Left Return"; do
             go_to amax
-            # shellcheck disable=SC2086
+            # shellcheck disable=SC2086 # several words
             xdotool key --delay "$delay" $keys
             await_box "the question after $keys"
             answer_box Escape
@@ -99,7 +99,7 @@ visit_layouts() {
     while read -r layout option keys; do
         setxkbmap -layout "$layout" -option "" -option "${option#none}"
         go_to amax
-        # shellcheck disable=SC2086
+        # shellcheck disable=SC2086 # several words
         hold 0 $keys
         expect_field amax "${default_scale[2]}"
     done <<<"us,de grp:alt_shift_toggle    Alt_L Shift_L
@@ -141,7 +141,7 @@ visit_left_menus() {
     new_class
     while IFS=: read -r opening closing; do
         click missed
-        # shellcheck disable=SC2086
+        # shellcheck disable=SC2086 # several words
         {
             opens "the menu of $opening" $opening
             closes "the menu of $opening by $closing" $closing
@@ -199,8 +199,8 @@ visit_list_keys() {
     new_class "${papers_in_list[@]}"
     go_to ListBox1
     while read -r keys rows; do
-        # shellcheck disable=SC2086
-        { key ${keys//,/ } && expect_rows "$keys" $rows; }
+        # shellcheck disable=SC2086 # several words
+        key "$keys" && expect_rows "$keys" $rows
     done <<<"Down 1
              Down 2
              Home 1
