@@ -94,20 +94,10 @@ bool LineEdit::event(QEvent* event)
     return QLineEdit::event(event);
 }
 
-/// Opening a menu from the keyboard keeps the selection, as opening it with the mouse does.
-void LineEdit::focusInEvent(QFocusEvent* event)
-{
-    bool const fromMenu = event->reason() == Qt::MenuBarFocusReason;
-    QFocusEvent entered(event->type(), fromMenu ? Qt::PopupFocusReason : event->reason());
-    QLineEdit::focusInEvent(&entered);
-}
-
 void LineEdit::focusOutEvent(QFocusEvent* event)
 {
     endClick(); // a message box takes the focus, and the release of the button
-    bool const toMenu = event->reason() == Qt::MenuBarFocusReason;
-    QFocusEvent left(event->type(), toMenu ? Qt::PopupFocusReason : event->reason());
-    QLineEdit::focusOutEvent(&left);
+    QLineEdit::focusOutEvent(event);
 }
 
 void LineEdit::keyPressEvent(QKeyEvent* event)

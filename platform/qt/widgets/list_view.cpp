@@ -47,9 +47,18 @@ void ListView::setColumnWidths(QString const& widths)
     }
 }
 
+/// Rows have one height. The header, asked for their positions, would count all rows anew after each entry.
 QRect ListView::rowRect(int row) const
 {
-    return {0, rowViewportPosition(row), viewport()->width(), kRowHeight};
+    return {0, row * kRowHeight - verticalOffset(), viewport()->width(), kRowHeight};
+}
+
+QRect ListView::visualRect(QModelIndex const& index) const
+{
+    int const column = index.column();
+    QRect const row = rowRect(index.row());
+    return index.isValid() ? QRect(columnViewportPosition(column), row.y(), columnWidth(column), row.height())
+                           : QRect();
 }
 
 // --- painting
@@ -58,10 +67,10 @@ QRect ListView::rowRect(int row) const
 void ListView::paintEvent(QPaintEvent* event)
 {
     QPainter painter(viewport());
-    int const bottom = event->rect().bottom();
-    int row = rowAt(event->rect().top()); // -1 below the last one
-    while (row >= 0 && row < model()->rowCount() && rowViewportPosition(row) <= bottom) {
-        drawRow(painter, row++);
+    int const first = (event->rect().top() + verticalOffset()) / kRowHeight;
+    int const last = (event->rect().bottom() + verticalOffset()) / kRowHeight;
+    for (int row = first; row <= std::min(last, model()->rowCount() - 1); ++row) {
+        drawRow(painter, row);
     }
 }
 

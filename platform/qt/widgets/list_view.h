@@ -11,6 +11,8 @@ public:
     /// Widths of the first columns in pixels, separated by commas; the others share what is left.
     void setColumnWidths(QString const& widths);
 
+    [[nodiscard]] QRect visualRect(QModelIndex const& index) const override;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
