@@ -2,7 +2,6 @@
 #include "tests/harness.h"
 
 #include <limits>
-#include <locale>
 
 using namespace std::string_literals;
 
@@ -70,14 +69,23 @@ struct Writing {
     {9007199254740993.0, "9007199254740992"}, // whole numbers keep all digits
     {Limits::quiet_NaN(), "NaN"},
 };
-// clang-format on
 
-/// A locale that writes 1234.5 as 1.234,5.
-struct CommaLocale final : std::numpunct<char> {
-    char do_decimal_point() const override { return ','; }
-    char do_thousands_sep() const override { return '.'; }
-    std::string do_grouping() const override { return "\3"; }
+// One conversion reads an exponent, the other does not: where each of them reads what a user or a file has brought.
+Scenario const kSites[] = {
+    {"the number missed, Val", "total=30; missed=4e1 Return", {}, "lastmissed=4 numstudents=1"},
+    {"the number correct, Val", "total=30; checkcorrect; correct=2e1 Return", {}, "lastmissed=28 percentage=6.66"},
+    {"whether there are points, CDbl", "total=1e-999; missed=0 Return", {{kNeedsPoints}}, "numstudents= missed=0"},
+    {"the number of points, Val", "total=2.5e1; missed=1 Return", {}, "percentage=50 numstudents=1"},
+    {"the scale at a press of Grade, Val", "write aminusmin=9e1; total=30; missed=3 Return", {{kScaleUnsound, kNo}},
+     "aminusmin=9e1 numstudents="},
+    {"the top of the scale, Val", "write aplusmax=1e2; total=30; missed=3 Return", {{kScaleUnsound, kYes}},
+     "aplusmax=100 numstudents=1"},
+    {"the minimum of a boundary, CDbl", "write aplusmin=9.8e1; focus amin", {}, "aplusmin=9.8e1 amax=97"},
+    {"the maximum of a boundary, CDbl", "write amax=9.7e1; focus amin", {}, "aplusmin=98 amax=9.7e1"},
+    {"the lowest minimum at a save, CDbl", "write dminusmin=1.5e1; PushButton2", {}, "dminusmin=15"},
+    {"the stored text, CDbl", "total=30; missed=3 Return; write dmax=1e-1; focus dmax; key 5", {{kDeletesData, kNo}}, "dmax=5"},
 };
+// clang-format on
 
 } // namespace
 
@@ -106,11 +114,13 @@ private slots:
 
     void noLocaleChangesANumber()
     {
-        std::locale const before = std::locale::global(std::locale(std::locale(), new CommaLocale));
+        ForeignLocale const locale;
         readingTakesThePlainNumberThatATextStartsWith();
         strWritesSevenDigitsPlainlyAndFormatCutsAtThePatternsDecimals();
-        std::locale::global(before);
     }
+
+    void eachSiteReadsAnExponentOrStopsThere_data() { AddRows(kSites); }
+    void eachSiteReadsAnExponentOrStopsThere() { CheckScenario(); }
 
     void halvesRoundAwayFromZeroAndIntegersTruncateAndSaturate()
     {

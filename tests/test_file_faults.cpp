@@ -1,10 +1,12 @@
 #include "tests/harness.h"
 
 #include "platform/files.h"
+#include "platform/qt/system/native.h"
 
 #include <QDir>
 
 #include <cerrno>
+#include <csignal>
 #include <cstdarg>
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -128,7 +130,9 @@ private slots:
                 do {
                     calls += FailCall(static_cast<int>(calls.size()) + 1, existed);
                 } while (!calls.last().isEmpty());
-                QVERIFY(calls.contains("open64") && calls.contains("write") && calls.contains("fsync"));
+                for (char const* const call : {"open64", "write", "fsync"}) {
+                    QVERIFY2(calls.contains(QLatin1String(call)), call);
+                }
             }
         }
     }
@@ -160,6 +164,23 @@ private slots:
         QString const pipe = folder.filePath("pipe");
         QCOMPARE(mkfifo(QFile::encodeName(pipe), 0600), 0);
         QCOMPARE(Save(pipe, "text\n"), "it is not a plain file"_L1);
+    }
+
+    void aBrowserInheritsNoFileAndAnIgnoredSignalStaysIgnored()
+    {
+        auto const inherited = [] {
+            int count = 0;
+            for (int file = 0; file < 1000; ++file) {
+                int const flags = fcntl(file, F_GETFD);
+                count += flags >= 0 && (flags & FD_CLOEXEC) == 0 ? 1 : 0;
+            }
+            return count;
+        };
+        int const before = inherited();
+        std::signal(SIGHUP, SIG_IGN); // as nohup starts a program
+        HandleSignals([] {});
+        QCOMPARE(inherited(), before);
+        QVERIFY(std::signal(SIGHUP, SIG_DFL) == SIG_IGN);
     }
 
     void whatIsNoScaleFileIsReportedAndChangesNothing_data() { AddRows(kNoFiles); }

@@ -4,10 +4,6 @@
 
 namespace {
 
-constexpr char const* kQuestion =
-    "Gradeloom has found problems with the grading scale which must be fixed to continue. Would you like "
-    "Gradeloom to fix them for you?";
-
 // clang-format off
 Scenario const kScores[] = {
     {"29 % is 28.999999999999996 in doubles", "total=100; missed=71 Return", {},
@@ -31,17 +27,15 @@ Scenario const kScores[] = {
     {"no points", "missed=5 Return", {{kNeedsPoints}}, "missed=5 numstudents= pointstemp= problem=1"},
     {"negative points", "total=-5; missed=0 Return", {{kNeedsPoints}}, "missed=0 numstudents="},
     {"no whole point to divide by", "total=0.4; missed=0 Return", {{kNeedsPoints}}, "missed=0 numstudents= percentage="},
-    {"500 as a test, 0.5 to divide by", "checkcorrect; total=0.5e3; correct=5 Return", {{kNeedsPoints}},
-     "missed= correct=5 numstudents="},
 
-    {"Yes has the scale repaired", "write amin=98; total=30; missed=3 Return", {{kQuestion, kYes}, {kScaleRepaired}},
+    {"Yes has the scale repaired", "write amin=98; total=30; missed=3 Return", {{kScaleUnsound, kYes}, {kScaleRepaired}},
      "amin=96 numstudents=1 missed="},
-    {"Yes without points", "write amin=98; missed=3 Return", {{kQuestion, kYes}, {kScaleRepaired}, {kNeedsPoints}},
+    {"Yes without points", "write amin=98; missed=3 Return", {{kScaleUnsound, kYes}, {kScaleRepaired}, {kNeedsPoints}},
      "amin=96 numstudents= missed=3"},
     {"equal bounds are in order", "write amin=97; total=30; missed=3 Return", {{kScaleRepaired}},
      "aminusmax=96 numstudents=1"},
     {"without points a gap stays", "write aminusmax=91; missed=3 Return", {{kNeedsPoints}}, "aminusmax=91"},
-    {"the top is compared as it was typed", "write aplusmax=97; total=30; missed=3 Return", {{kQuestion, kNo}},
+    {"the top is compared as it was typed", "write aplusmax=97; total=30; missed=3 Return", {{kScaleUnsound, kNo}},
      "aplusmax=100 numstudents="},
 };
 
@@ -156,7 +150,7 @@ private slots:
     void everyLetterHoldsFromItsMinimumToItsMaximum()
     {
         TestSession const session;
-        QStringList const bounds = QString(kDefaultScale).split(u' ') + QStringList{u"59"_s, u"0"_s};
+        QStringList const bounds = QString(kTestScale).split(u' ') + QStringList{u"59"_s, u"0"_s};
         QStringList const letters = u"A+ A A- B+ B B- C+ C C- D+ D D- F"_s.split(u' ');
         for (qsizetype band = 0; band < letters.size(); ++band) {
             for (double const percent :
@@ -172,12 +166,12 @@ private slots:
 
     void theStampsAreSetBeforeTheQuestionAndThePointsAreRestoredAfterTheNotice()
     {
-        TestSession session({{kQuestion, kNo}, {kPointsAreFixed}});
+        TestSession session({{kScaleUnsound, kNo}, {kPointsAreFixed}});
         session.setFields("amin=98 total=37.5");
         session.whileBoxIsUp = [&] { session.expectFields("problem=1 pointstemp=37.5"); };
         session.form().PushButton1_Action();
         session.whileBoxIsUp = [&] { session.expectFields("total=7"); };
-        session.play("PushButton3; missed=3 Return; focus total; key 7");
+        session.play("write amin=93; missed=3 Return; focus total; key 7");
         session.expectFields("total=37.5 numstudents=1 ListBox1=1,91.891,%");
     }
 

@@ -169,9 +169,9 @@ private slots:
         session.enterScores("40", {"4", "8"});
         ::Window1();
         ::Author();
-        for (auto const& [name, stops] : {std::pair("mainscreen", 43), {"Window1", 5}, {"Author", 1}}) {
+        for (char const* const name : {"mainscreen", "Window1", "Author"}) {
             session.activate(name);
-            int found = 0;
+            bool hasStops = false;
             for (QWidget* const control :
                  session.widget("StaticText1", name)->parent()->findChildren<QWidget*>()) {
                 bool const isShown = control->isVisible() && control->isEnabled();
@@ -179,9 +179,9 @@ private slots:
                 bool const hasOwnColors = name != "Author"_L1; // that has the desktop's
                 QVERIFY2(!isShown || !hasOwnColors || IsLegible(*control), qPrintable(control->objectName()));
                 QVERIFY2(!isStop || ShowsFocus(*control), qPrintable(control->objectName()));
-                found += isStop ? 1 : 0;
+                hasStops = hasStops || isStop;
             }
-            QCOMPARE(found, stops);
+            QVERIFY2(hasStops, name);
         }
     }
 };

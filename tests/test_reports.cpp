@@ -30,7 +30,9 @@ std::vector<Word> ReadPdf(QString const& path)
 {
     QProcess reader;
     reader.start(u"pdftotext"_s, {u"-raw"_s, u"-bbox"_s, path, u"-"_s});
-    reader.waitForFinished();
+    if (!reader.waitForFinished()) {
+        QTest::qFail("pdftotext, which is in the package poppler-utils, does not run", __FILE__, __LINE__);
+    }
     static QRegularExpression const pattern(u"<page |<word xMin=\"(.*)\" yMin.* yMax=\"(.*)\">(.*)</"_s);
     std::vector<Word> words;
     for (auto const& match : pattern.globalMatch(QString::fromUtf8(reader.readAllStandardOutput()))) {
@@ -105,11 +107,17 @@ private slots:
             if (entries > 160) {
                 session.expectBox(
                     "Gradeloom will only print the first 160 entries. If you need to print more "
-                    "scores than 160, please contact the author at ");
+                    "scores than 160, please contact the author at " CONTACT);
             }
             session.play("FilePrint");
             CompareReports(ReadPdf(session.fileToChoose), ReportOf(session));
         }
+    }
+
+    void aLocaleChangesNothingOfTheReport()
+    {
+        ForeignLocale const locale;
+        everyWordOfTheReportIsInItsPlace();
     }
 
     void aCancelledDialogIsSilentAndAFaultIsReportedWithItsReason()
@@ -151,6 +159,15 @@ private slots:
     {
         TestSession const session;
         TestSession::useRealDoors();
+        QTimer::singleShot(1, qApp, [] {
+            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QMetaObject::invokeMethod(dialog, "reject", Qt::QueuedConnection);
+            QCOMPARE(dialog->windowTitle(), "Select a Grading Scale"_L1);
+            QCOMPARE(dialog->acceptMode(), QFileDialog::AcceptOpen);
+            QCOMPARE(dialog->fileMode(), QFileDialog::ExistingFile);
+        });
+        session.play("FileOpen");
+        session.activate();
         session.enterScores("40", {"4"});
         QTimer::singleShot(1, qApp, [&] {
             auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
