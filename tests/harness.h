@@ -12,8 +12,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <locale>
-
 using namespace Qt::StringLiterals;
 
 inline constexpr bool kIsWindows = QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows;
@@ -41,20 +39,19 @@ inline constexpr char const* kScaleFieldNames =
 inline constexpr char const* kTestScale =
     "100 98 97 93 92 90 89 88 87 83 82 80 79 78 77 73 72 70 69 68 67 63 62 60";
 
-/// The place in a test that a failure names.
+/// The line of a test that a failure names.
 struct Caller {
+    Caller(char const* inFile = __builtin_FILE(), int inLine = __builtin_LINE()) : file(inFile), line(inLine)
+    {
+    }
+
     char const* file;
     int line;
-
-    static Caller here(char const* file = __builtin_FILE(), int line = __builtin_LINE())
-    {
-        return {file, line};
-    }
 };
 
 /// The program from its start to its end, with every message box and dialog answered by the test. A box that
-/// the test did not expect, a second one at once, or one before any window fails it and is answered with No; an expected box that
-/// does not come fails it too.
+/// the test did not expect, a second one at once, or one before there is a window fails it and is answered with
+/// No; an expected box that does not come fails it too.
 class TestSession {
     Q_DISABLE_COPY(TestSession)
 
@@ -77,15 +74,14 @@ public:
     [[nodiscard]] QMainWindow* window(char const* name = "mainscreen") const;
     /// A control. If there is none of this name and type the test fails, and gets one that has no effect.
     template <class Type = QWidget>
-    [[nodiscard]] Type* widget(QString const& name, char const* in = "mainscreen",
-                               Caller const& caller = Caller::here()) const
+    [[nodiscard]] Type* widget(QString const& name, char const* in = "mainscreen", Caller caller = {}) const
     {
         QMainWindow* const parent = window(in);
         auto* const found = parent != nullptr ? parent->findChild<Type*>(name) : nullptr;
         return found != nullptr ? found : (reportMissing(name, in, caller), new Type(parent));
     }
     [[nodiscard]] QLineEdit* field(QString const& name, char const* in = "mainscreen",
-                                   Caller const& caller = Caller::here()) const
+                                   Caller caller = {}) const
     {
         return widget<QLineEdit>(name, in, caller);
     }
@@ -95,41 +91,37 @@ public:
     [[nodiscard]] QString pathOf(char const* name) const { return folder_.filePath(QLatin1String(name)); }
 
     /// The text of a control. A list's rows are separated by ";", its cells by ",".
-    [[nodiscard]] QString text(QString const& name, char const* in = "mainscreen",
-                               Caller const& caller = Caller::here()) const;
+    [[nodiscard]] QString text(QString const& name, char const* in = "mainscreen", Caller caller = {}) const;
     /// The texts of several controls, separated by "|".
     [[nodiscard]] QString texts(QString const& names, char const* in = "mainscreen") const;
     /// Fails for each control that does not hold its text: "percentage=29 lettergrade=F correct=". A text
     /// ends in front of the next blank that is followed by a name and "=".
-    void expectFields(QString const& expected, char const* in = "mainscreen",
-                      Caller const& caller = Caller::here()) const;
+    void expectFields(QString const& expected, char const* in = "mainscreen", Caller caller = {}) const;
     /// Fails for each of these controls that is not empty: "percentage ListBox1".
-    void expectEmpty(QString const& names, char const* in = "mainscreen",
-                     Caller const& caller = Caller::here()) const;
+    void expectEmpty(QString const& names, char const* in = "mainscreen", Caller caller = {}) const;
     /// Fails for each scale field that differs: "100 99 98" are the first, the others are as in kTestScale.
-    void expectScale(QString const& numbers, Caller const& caller = Caller::here()) const;
+    void expectScale(QString const& numbers, Caller caller = {}) const;
 
     /// Brings the window to the front and waits until it is active.
-    void activate(char const* name = "mainscreen", Caller const& caller = Caller::here()) const;
+    void activate(char const* name = "mainscreen", Caller caller = {}) const;
     /// Moves the focus to a field as Tab does; its GotFocus has been raised when this returns.
-    [[nodiscard]] QLineEdit* enterField(QString const& name, Caller const& caller = Caller::here()) const;
+    [[nodiscard]] QLineEdit* enterField(QString const& name, Caller caller = {}) const;
     /// Replaces a field's text by typing, key by key; a line end is a press of Return.
     void type(QString const& name, QString const& text, char const* in = "mainscreen",
-              Caller const& caller = Caller::here()) const;
+              Caller caller = {}) const;
     /// Types the number of points, then each number missed with Return.
     void enterScores(QString const& points, QStringList const& missed) const;
     /// Writes texts as the program does: "amin=80 amax=97".
-    void setFields(QString const& fields, Caller const& caller = Caller::here()) const;
+    void setFields(QString const& fields, Caller caller = {}) const;
     void writeTestScale() const;
-    /// Carries acts out in their order, separated by "; ":
+    /// Carries acts out in their order, separated by "; ", and fails for a name that the form does not have:
     ///   missed=3     types into the field, "missed=3 Return" presses Return then
     ///   EditUndo     chooses the command of that name, or else clicks the control
     ///   focus amin   enters the field; key Left, keys 96 and paste 12 act on the focused one, and so do compose 9
     ///                and commit 9 of an input method
     ///   drop amax 6  drops a text on the field; edit amax 6 sets it as an assistive program does
     ///   write amin=80 amax=97   writes as the program does
-    /// The test fails for a name that the form does not have.
-    void play(QString const& acts, Caller const& caller = Caller::here()) const;
+    void play(QString const& acts, Caller caller = {}) const;
 
     QString startScale;                          ///< the texts of the scale before the tests' own was written
     std::string openedAddress;                   ///< the last address that was to be opened
@@ -141,7 +133,7 @@ public:
     std::string lastBox;                         ///< the text of the last box
 
 private:
-    static void reportMissing(QString const& name, char const* in, Caller const& caller);
+    static void reportMissing(QString const& name, char const* in, Caller caller);
 
     std::vector<Box> expectedBoxes_;
     bool isBoxUp_ = false;
@@ -167,19 +159,7 @@ void AddRows(Row const (&table)[count])
 }
 
 /// Plays the scenario of the current row after these acts, if any.
-void CheckScenario(QString const& before = {}, Caller const& caller = Caller::here());
-/// A locale with digits of its own that writes 1234.5 as 1.234,5, as long as this lives.
-class ForeignLocale {
-    Q_DISABLE_COPY(ForeignLocale)
-
-public:
-    ForeignLocale();
-    ~ForeignLocale();
-
-private:
-    std::locale const before_;
-};
-
+void CheckScenario(QString const& before = {}, Caller caller = {});
 /// Lets the program run once more in this process, after it has ended.
 void StartAgain();
 /// The scale file that is read at the start.

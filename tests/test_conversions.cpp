@@ -2,6 +2,7 @@
 #include "tests/harness.h"
 
 #include <limits>
+#include <locale>
 
 using namespace std::string_literals;
 
@@ -87,6 +88,13 @@ Scenario const kSites[] = {
 };
 // clang-format on
 
+/// A locale that writes 1234.5 as 1.234,5.
+struct CommaLocale final : std::numpunct<char> {
+    char do_decimal_point() const override { return ','; }
+    char do_thousands_sep() const override { return '.'; }
+    std::string do_grouping() const override { return "\3"; }
+};
+
 } // namespace
 
 /// The conversions between text and numbers, on both sides of each of their borders.
@@ -114,9 +122,10 @@ private slots:
 
     void noLocaleChangesANumber()
     {
-        ForeignLocale const locale;
+        std::locale const before = std::locale::global(std::locale(std::locale(), new CommaLocale));
         readingTakesThePlainNumberThatATextStartsWith();
         strWritesSevenDigitsPlainlyAndFormatCutsAtThePatternsDecimals();
+        std::locale::global(before);
     }
 
     void eachSiteReadsAnExponentOrStopsThere_data() { AddRows(kSites); }

@@ -130,23 +130,6 @@ private slots:
         }
     }
 
-    void undoAndLettersReadExponents()
-    {
-        TestSession const session;
-        session.enterScores("30", {"3", "4"});
-        class mainscreen& form = session.form();
-        form.ListBox1().Cell(0, 1, "9e1");
-        for (Listbox* const list : {&form.ListBox2(), &form.ListBox3(), &form.ListBox5()}) {
-            list->Cell(0, 0, "1e1");
-        }
-        session.setFields("numstudents=2e0 bgrade=1e1");
-        session.play("EditUndo");
-        session.expectFields("percentage=90 lastmissed=10 EditField1=10 average=10 numstudents=1 bgrade=9");
-        session.setFields("percentage=8e1");
-        form.percenttest();
-        session.expectFields("lettergrade=B-");
-    }
-
     void everyLetterHoldsFromItsMinimumToItsMaximum()
     {
         TestSession const session;

@@ -116,8 +116,9 @@ private slots:
 
     void aLocaleChangesNothingOfTheReport()
     {
-        ForeignLocale const locale;
+        QLocale::setDefault(QLocale(u"ar_EG"_s)); // with digits and a decimal comma of its own
         everyWordOfTheReportIsInItsPlace();
+        QLocale::setDefault(QLocale::system());
     }
 
     void aCancelledDialogIsSilentAndAFaultIsReportedWithItsReason()
