@@ -14,6 +14,7 @@
 #include <QPrinter>
 #include <QRegularExpression>
 #include <QStandardPaths>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -75,6 +76,10 @@ void PressKey(QString const& name, Caller caller)
 
 void StartAgain()
 {
+    if (Runtime::instance().isEnding) { // and so is the toolkit, until its event loop has run once more
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        QApplication::exec();
+    }
     Runtime::instance().isEnding = false;
 }
 
@@ -257,6 +262,9 @@ void TestSession::play(QString const& acts, Caller caller) const
         QString const word = act.section(u' ', 0, 0);
         QString const rest = act.section(u' ', 1);
         auto const command = std::ranges::find(items, act, &QAction::objectName);
+        if (QApplication::focusWidget() == nullptr) { // a box was open
+            activate("mainscreen", caller);
+        }
         if (word == "write"_L1) {
             setFields(rest, caller);
         } else if (word == "focus"_L1) {

@@ -78,8 +78,8 @@ class Boxes final : public QObject {
     Q_OBJECT
 
 private slots:
-    void keysAnswerOnceTheKeyboardHasBeenQuiet_data() { AddRows(kOpenKeys); }
-    void keysAnswerOnceTheKeyboardHasBeenQuiet()
+    void boxesTakeKeysOnceTheKeyboardIsQuiet_data() { AddRows(kOpenKeys); }
+    void boxesTakeKeysOnceTheKeyboardIsQuiet()
     {
         QFETCH(OpenKeys const*, row);
         auto const answer = AnswerTo(row->isQuestion, [row](QMessageBox const& box, QTimer& quiet) {
@@ -92,7 +92,7 @@ private slots:
         QVERIFY(answer == row->answer);
     }
 
-    void keysMeantForAFieldAnswerNothingAndRestartTheWait()
+    void strayKeysAnswerNothingAndRestartTheWait()
     {
         auto const answer = AnswerTo(true, [](QMessageBox const& box, QTimer& quiet) {
             QCOMPARE(quiet.interval(), 500);
@@ -108,7 +108,7 @@ private slots:
         QVERIFY(answer == std::nullopt);
     }
 
-    void theTimeStampsOfTheKeysCountAndAHeldKeyAnswersNothing()
+    void keysAreTimedByTheirStampsAndHeldKeysAnswerNothing()
     {
         QWidget field;
         PressAt(10'000, &field, false); // the program was busy when the next key came
@@ -121,7 +121,7 @@ private slots:
         }
     }
 
-    void theMouseAnswersAtOnceAndTheTextIsPlain()
+    void mouseAnswersAtOnceAndTextIsPlain()
     {
         int const before = bells;
         auto const answer = AnswerTo(true, [](QMessageBox const& box, QTimer const& /*quiet*/) {
@@ -133,7 +133,7 @@ private slots:
         QVERIFY(AnswerTo(true, [](QMessageBox& box, QTimer const& /*quiet*/) { box.close(); }) == kNo);
     }
 
-    void theNoticeComesBeforeTheNextKeyAndLosesNone()
+    void noticesComeBeforeTheNextKeyAndLoseNone()
     {
         TestSession const session;
         session.play("filepresent");

@@ -102,14 +102,14 @@ class Conversions final : public QObject {
     Q_OBJECT
 
 private slots:
-    void readingTakesThePlainNumberThatATextStartsWith()
+    void textsAreReadUpToWhereTheirNumberEnds()
     {
         for (auto const& [text, val, cdbl] : kReadings) {
             QVERIFY2(Val(text) == val && CDbl(text) == cdbl, text.c_str());
         }
     }
 
-    void strWritesSevenDigitsPlainlyAndFormatCutsAtThePatternsDecimals()
+    void strKeepsSevenDigitsAndFormatTruncates()
     {
         for (auto const& [number, seven, two, three] : kWritings) {
             QCOMPARE(Str(number), std::string(seven));
@@ -120,18 +120,18 @@ private slots:
         QVERIFY(Str(Integer{0}) == "0" && Str(kLowest) == "-9223372036854775808");
     }
 
-    void noLocaleChangesANumber()
+    void numbersIgnoreTheLocale()
     {
         std::locale const before = std::locale::global(std::locale(std::locale(), new CommaLocale));
-        readingTakesThePlainNumberThatATextStartsWith();
-        strWritesSevenDigitsPlainlyAndFormatCutsAtThePatternsDecimals();
+        textsAreReadUpToWhereTheirNumberEnds();
+        strKeepsSevenDigitsAndFormatTruncates();
         std::locale::global(before);
     }
 
-    void eachSiteReadsAnExponentOrStopsThere_data() { AddRows(kSites); }
-    void eachSiteReadsAnExponentOrStopsThere() { CheckScenario(); }
+    void exponentsAreReadOnlyWhereTheyCount_data() { AddRows(kSites); }
+    void exponentsAreReadOnlyWhereTheyCount() { CheckScenario(); }
 
-    void halvesRoundAwayFromZeroAndIntegersTruncateAndSaturate()
+    void halvesRoundUpAndIntegersTruncateAndSaturate()
     {
         QVERIFY(Round(89.5) == 90.0 && Round(88.5) == 89.0 && Round(-0.5) == -1.0 && Round(89.49) == 89.0);
         QVERIFY(Round(0.49999999999999994) == 0.0); // adding a half first would make it 1
@@ -142,7 +142,7 @@ private slots:
         QVERIFY(Sum(kLowest, -1) == kLowest && Sum(kLowest + 1, -1) == kLowest && Sum(2, 0) == 2);
     }
 
-    void everyScoreComesBackAsShownAndRoundsAlikeAndRightInBothModes()
+    void everyScoreRoundsCorrectlyInBothModes()
     {
         for (int points = 1; points <= 1000; ++points) {
             for (int correct = 0; correct <= points; ++correct) {

@@ -59,7 +59,7 @@ class EditGuard final : public QObject {
     Q_OBJECT
 
 private slots:
-    void aKeyInAnyScaleFieldAsksFirstAndNoRestoresTheText()
+    void keysInScaleFieldsAskFirstAndNoRestoresTheText()
     {
         TestSession session;
         session.enterScores("40", {"4"});
@@ -76,11 +76,11 @@ private slots:
         }
     }
 
-    void anEditUnderEntriesIsAskedForAndRestored_data() { AddRows(kEdits); }
-    void anEditUnderEntriesIsAskedForAndRestored() { CheckScenario(kOneEntry); }
+    void editsWithEntriesAskFirst_data() { AddRows(kEdits); }
+    void editsWithEntriesAskFirst() { CheckScenario(kOneEntry); }
 
-    void aBoundaryThatIsOffComesOutInWholeNumbers_data() { AddRows(kBoundaries); }
-    void aBoundaryThatIsOffComesOutInWholeNumbers()
+    void wrongBoundariesAreCorrectedToWholeNumbers_data() { AddRows(kBoundaries); }
+    void wrongBoundariesAreCorrectedToWholeNumbers()
     {
         QFETCH(Boundary const*, row);
         for (qsizetype band = 1; band < 12; ++band) {
@@ -100,7 +100,7 @@ private slots:
         }
     }
 
-    void noticesOfTwoFieldsComeOneAfterTheOther()
+    void noticesOfTwoFieldsComeInTurn()
     {
         TestSession session({{Notice(1)}, {Notice(2)}});
         session.setFields("aplusmin=95 aminusmax=80");
@@ -109,7 +109,7 @@ private slots:
         session.play("focus aminusmin");
     }
 
-    void aNoticeThatIsDueComesBeforeAnInputMethodsTextAndAPressOfAButton()
+    void pendingNoticesComeBeforeInputMethodsAndButtons()
     {
         TestSession session({{Notice(1)}, {Notice(1)}});
         auto const* const button = session.widget<QPushButton>("PushButton3");

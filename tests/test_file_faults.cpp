@@ -121,7 +121,7 @@ class FileFaults final : public QObject {
     Q_OBJECT
 
 private slots:
-    void aFaultOfAnyCallKeepsTheOldFileAndSaysWhy()
+    void anyFailingCallKeepsTheOldFileAndGivesAReason()
     {
         for (int const fault : {EIO, ENOSPC, EACCES, EINVAL}) {
             faultNumber = fault;
@@ -137,7 +137,7 @@ private slots:
         }
     }
 
-    void aLinkStaysALinkAndPermissionsStay()
+    void savingKeepsLinksAndPermissions()
     {
         QTemporaryDir const folder;
         QString const path = folder.filePath(u"scale"_s);
@@ -152,7 +152,7 @@ private slots:
         QCOMPARE(QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
     }
 
-    void aNameTooLongForATemporaryAndAPipeAreRefused()
+    void savingRefusesPipesAndNamesThatAreTooLong()
     {
         QTemporaryDir const folder;
         for (int const length : {248, 248, 249, 255, 256}) { // 255 bytes is the longest name of a file
@@ -166,7 +166,7 @@ private slots:
         QCOMPARE(Save(pipe, "text\n"), "it is not a plain file"_L1);
     }
 
-    void aBrowserInheritsNoFileAndAnIgnoredSignalStaysIgnored()
+    void browserInheritsNoFilesAndIgnoredSignalsStayIgnored()
     {
         auto const inherited = [] {
             int count = 0;
@@ -183,8 +183,8 @@ private slots:
         QVERIFY(std::signal(SIGHUP, SIG_DFL) == SIG_IGN);
     }
 
-    void whatIsNoScaleFileIsReportedAndChangesNothing_data() { AddRows(kNoFiles); }
-    void whatIsNoScaleFileIsReportedAndChangesNothing()
+    void unreadableFilesAreReportedAndChangeNothing_data() { AddRows(kNoFiles); }
+    void unreadableFilesAreReportedAndChangeNothing()
     {
         QFETCH(NoFile const*, row);
         TestSession session;

@@ -105,7 +105,7 @@ public:
     explicit Forms(bool isWriting) : isWriting_(isWriting) {}
 
 private slots:
-    void eachWindowIsAsItsFileSays()
+    void windowsMatchTheirForms()
     {
         TestSession const session;
         session.play("PushButton3; filepresent");

@@ -99,14 +99,14 @@ class Grading final : public QObject {
     Q_OBJECT
 
 private slots:
-    void aScoreBecomesAnEntryOrIsRefused_data() { AddRows(kScores); }
-    void aScoreBecomesAnEntryOrIsRefused() { CheckScenario(); }
+    void scoresAreEnteredOrRefused_data() { AddRows(kScores); }
+    void scoresAreEnteredOrRefused() { CheckScenario(); }
 
     void entriesAreListedAndUndone_data() { AddRows(kSessions); }
     void entriesAreListedAndUndone() { CheckScenario(); }
 
-    void whatAnActWritesHasItsOrder_data() { AddRows(kOrders); }
-    void whatAnActWritesHasItsOrder()
+    void controlsAreWrittenInOrder_data() { AddRows(kOrders); }
+    void controlsAreWrittenInOrder()
     {
         QFETCH(Order const*, row);
         TestSession const session;
@@ -130,7 +130,7 @@ private slots:
         }
     }
 
-    void everyLetterHoldsFromItsMinimumToItsMaximum()
+    void letterGradesCoverTheirWholeRange()
     {
         TestSession const session;
         QStringList const bounds = QString(kTestScale).split(u' ') + QStringList{u"59"_s, u"0"_s};
@@ -147,7 +147,7 @@ private slots:
         }
     }
 
-    void theStampsAreSetBeforeTheQuestionAndThePointsAreRestoredAfterTheNotice()
+    void stampsAreSetBeforeTheQuestionAndPointsRestoredAfterTheNotice()
     {
         TestSession session({{kScaleUnsound, kNo}, {kPointsAreFixed}});
         session.setFields("amin=98 total=37.5");
@@ -158,7 +158,7 @@ private slots:
         session.expectFields("total=37.5 numstudents=1 ListBox1=1,91.891,%");
     }
 
-    void theListShowsNumbersPercentagesAndTheLastEntry()
+    void listShowsNumbersPercentagesAndItsLastRow()
     {
         TestSession const session;
         session.play("total=30" + u"; missed=3 Return"_s.repeated(20));

@@ -111,7 +111,7 @@ class KeysAndFields final : public QObject {
     Q_OBJECT
 
 private slots:
-    void returnAndShortcutsPassEveryControl()
+    void returnAndShortcutsWorkInEveryControl()
     {
         TestSession const session;
         for (char const* const name :
@@ -124,8 +124,8 @@ private slots:
         }
     }
 
-    void eventsComeInTheirOrderOneForEachAct_data() { AddRows(kEvents); }
-    void eventsComeInTheirOrderOneForEachAct()
+    void eachActRaisesItsEventsInOrder_data() { AddRows(kEvents); }
+    void eachActRaisesItsEventsInOrder()
     {
         QFETCH(LoggedActs const*, row);
         std::string events;
@@ -136,7 +136,7 @@ private slots:
         QCOMPARE(events, row->events);
     }
 
-    void onlyAKeyThatDoesSomethingRaisesKeyDown()
+    void silentKeysRaiseNoKeyDown()
     {
         std::string events;
         TestSession const session;
@@ -150,7 +150,7 @@ private slots:
         QCOMPARE(events, "Help x ");
     }
 
-    void otherWindowsLeaveTheFocusWhereItIs()
+    void switchingWindowsKeepsTheFocus()
     {
         std::string events;
         TestSession const session;
@@ -166,10 +166,10 @@ private slots:
         QVERIFY(!session.field("missed")->hasSelectedText());
     }
 
-    void whatIsTypedOrPastedIsInTheField_data() { AddRows(kActs); }
-    void whatIsTypedOrPastedIsInTheField() { CheckScenario(); }
+    void typingAndPastingFollowTheFieldsRules_data() { AddRows(kActs); }
+    void typingAndPastingFollowTheFieldsRules() { CheckScenario(); }
 
-    void aFieldHoldsALongPaste()
+    void fieldsHoldLongPastes()
     {
         TestSession const session;
         QString const nines(40'000, u'9');
@@ -177,10 +177,10 @@ private slots:
         session.expectFields("total=" + nines);
     }
 
-    void theUndoKeyUndoesWhatIsMeant_data() { AddRows(kUndone); }
-    void theUndoKeyUndoesWhatIsMeant() { CheckScenario(kTwoEntries); }
+    void undoKeyUndoesTypingFirst_data() { AddRows(kUndone); }
+    void undoKeyUndoesTypingFirst() { CheckScenario(kTwoEntries); }
 
-    void aResultTooWideIsCondensedThenShowsItsStartAndHasATooltip()
+    void wideResultsAreCondensedOrShowTheirStartAndATooltip()
     {
         TestSession const session;
         QLineEdit const* const result = session.field("percentage");

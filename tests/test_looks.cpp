@@ -108,7 +108,7 @@ class Looks final : public QObject {
     Q_OBJECT
 
 private slots:
-    void aListDrawsEachCellInItsPlaceAndSelectedRowsInTheirColours()
+    void listsDrawCellsAndSelectedRowsWhereTheyBelong()
     {
         TestSession const session;
         session.enterScores("30", {"3", "6", "9"});
@@ -129,7 +129,7 @@ private slots:
                  list->palette().color(QPalette::Highlight));
     }
 
-    void boldCaptionsFitWithAnyFont()
+    void boldCaptionsFitInWideFonts()
     {
         QFont const usual = QApplication::font();
         QFont wide = usual;
@@ -150,7 +150,7 @@ private slots:
 
     void cleanupTestCase() { UseStyle(u"Fusion"_s, kThemes[0]); }
 
-    void everyTextIsLegibleAndEveryStopShowsItsFocus_data()
+    void textIsLegibleAndFocusIsVisible_data()
     {
         QTest::addColumn<QString>("style");
         QTest::addColumn<Theme const*>("theme");
@@ -160,7 +160,7 @@ private slots:
             }
         }
     }
-    void everyTextIsLegibleAndEveryStopShowsItsFocus()
+    void textIsLegibleAndFocusIsVisible()
     {
         QFETCH(QString, style);
         QFETCH(Theme const*, theme);

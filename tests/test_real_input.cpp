@@ -68,7 +68,7 @@ class RealInput final : public QObject {
     Q_OBJECT
 
 private slots:
-    void aKeyWithAltTypesNothingAndOpensTheMenus()
+    void altKeysTypeNothingAndOpenMenus()
     {
         TestSession const session;
         QLineEdit* const field = session.enterField("missed");
@@ -84,7 +84,7 @@ private slots:
         session.expectFields("missed=7");
     }
 
-    void aDoubleOrTripleClickMakesOneEntryButCountsOnABox()
+    void doubleClicksPressButtonsOnceAndToggleTwice()
     {
         TestSession const session;
         session.type("total", "30");
@@ -115,7 +115,7 @@ private slots:
         QVERIFY(session.form().checkcorrect().Value());
     }
 
-    void theContextMenuKeepsToTheRulesOfTheField()
+    void contextMenuFollowsTheFieldsRules()
     {
         TestSession const session;
         QGuiApplication::clipboard()->clear();
@@ -134,7 +134,7 @@ private slots:
         QCOMPARE(QGuiApplication::clipboard()->text(), "1 2"_L1);
     }
 
-    void selectedRowsOfAListAreCopiedForASpreadsheet()
+    void selectedRowsAreCopiedAsTabSeparatedText()
     {
         TestSession const session;
         session.play("total=30" + u"; missed=3 Return"_s.repeated(20));
@@ -151,7 +151,7 @@ private slots:
         }
     }
 
-    void aScreenReaderHearsWhatWasGradedAndUndone()
+    void screenReadersHearGradesAndUndo()
     {
         TestSession const session;
         auto const* const rows = session.widget<QTableView>("ListBox1")->model();
@@ -170,7 +170,7 @@ private slots:
 #endif
     }
 
-    void anAssistiveEditIsAnsweredFirstAndThenTyped()
+    void assistiveEditsReturnBeforeTheyAreTyped()
     {
         TestSession const session;
         QWidget* const missed = session.widget("missed");

@@ -91,7 +91,7 @@ class Reports final : public QObject {
     Q_OBJECT
 
 private slots:
-    void everyWordOfTheReportIsInItsPlace()
+    void reportPlacesEveryWord()
     {
         if (kIsWindows) {
             QSKIP("needs a program that reads PDF files back");
@@ -114,14 +114,14 @@ private slots:
         }
     }
 
-    void aLocaleChangesNothingOfTheReport()
+    void reportIgnoresTheLocale()
     {
         QLocale::setDefault(QLocale(u"ar_EG"_s)); // with digits and a decimal comma of its own
-        everyWordOfTheReportIsInItsPlace();
+        reportPlacesEveryWord();
         QLocale::setDefault(QLocale::system());
     }
 
-    void aCancelledDialogIsSilentAndAFaultIsReportedWithItsReason()
+    void cancellingIsSilentAndFailuresGiveAReason()
     {
         TestSession session;
         Grade(session, 161);
@@ -143,7 +143,7 @@ private slots:
         session.play("FilePrint; FileExport");
     }
 
-    void theExportHoldsThePercentagesOfTheList()
+    void exportWritesTheListedPercentages()
     {
         TestSession session;
         session.enterScores("30", {"3", "4", "0", "30", "5"});
@@ -156,7 +156,7 @@ private slots:
         QVERIFY(ContentOf(session.fileToChoose).endsWith("\n20\n19.5\n"));
     }
 
-    void theRealDialogsLeadToRealFiles()
+    void realDialogsLeadToRealFiles()
     {
         TestSession const session;
         TestSession::useRealDoors();

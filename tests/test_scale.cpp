@@ -37,8 +37,8 @@ class Scale final : public QObject {
     Q_OBJECT
 
 private slots:
-    void theRepairWorksFromTheTopDown_data() { AddRows(kRepairs); }
-    void theRepairWorksFromTheTopDown()
+    void repairWorksFromTheTopDown_data() { AddRows(kRepairs); }
+    void repairWorksFromTheTopDown()
     {
         QFETCH(RepairCase const*, row);
         TestSession session(std::vector(row->notices, TestSession::Box{kScaleRepaired}));
@@ -53,7 +53,7 @@ private slots:
         session.expectFields("foundaproblem="_L1 + row->mark); // once set it stays
     }
 
-    void theDefaultButtonRestoresTheScaleUnlessThereAreEntries()
+    void defaultRestoresTheScaleUnlessThereAreEntries()
     {
         TestSession session;
         session.play("write amin=word dminusmin=50 foundaproblem=1; PushButton3");

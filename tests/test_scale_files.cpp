@@ -67,7 +67,7 @@ class ScaleFiles final : public QObject {
 private slots:
     void init() { QFile::remove(PreferencesPath()); }
 
-    void aSavedScaleComesBackAsItWasWritten()
+    void savedScalesAreReadBackUnchanged()
     {
         constexpr char const* kSaved = "aplusmax= 100 points aplusmin=95.5 amax=94.5 amin=93";
         QDir(QFileInfo(PreferencesPath()).path()).removeRecursively(); // the first save makes the folder
@@ -87,8 +87,8 @@ private slots:
                  QByteArray(kTestFile).replace("100\n98\n97", " 100 points\n95.5\n94.5"));
     }
 
-    void everyFormOfAScaleFileIsReadAndRepaired_data() { AddRows(kStarts); }
-    void everyFormOfAScaleFileIsReadAndRepaired()
+    void scaleFilesOfAnyFormAreReadAndRepaired_data() { AddRows(kStarts); }
+    void scaleFilesOfAnyFormAreReadAndRepaired()
     {
         QFETCH(Start const*, row);
         WriteFile(PreferencesPath(), row->bytes);
@@ -104,8 +104,8 @@ private slots:
         }
     }
 
-    void aSaveRepairsRoundsAndMayRefuse_data() { AddRows(kSaves); }
-    void aSaveRepairsRoundsAndMayRefuse()
+    void savingRepairsRoundsAndMayRefuse_data() { AddRows(kSaves); }
+    void savingRepairsRoundsAndMayRefuse()
     {
         QFETCH(Save const*, row);
         TestSession session;
@@ -127,7 +127,7 @@ private slots:
         QCOMPARE(QFile::exists(session.fileToChoose), row->isSaved);
     }
 
-    void theDialogsAskForWhatTheyAreFor()
+    void fileDialogsShowTheirTitlesAndNames()
     {
         TestSession session;
         session.play("PushButton2; FileOpen"); // both cancelled
@@ -140,7 +140,7 @@ private slots:
         QCOMPARE(open.title + '|' + open.prompt + '|' + open.suggestedName, "Select a Grading Scale||"s);
     }
 
-    void theDialogsStartWhereTheDocumentsAre()
+    void fileDialogsStartInDocumentsOrHome()
     {
         if (kIsWindows || QDir(u"/Documents"_s).exists()) {
             QSKIP("the documents of this system are not the test's");
@@ -155,7 +155,7 @@ private slots:
         }
     }
 
-    void aLineLosesOneByteOrderMarkAndInvalidBytesAreReplaced()
+    void readingDropsOneByteOrderMarkAndReplacesInvalidBytes()
     {
         QTemporaryDir const folder;
         FolderItem const item(folder.filePath("marks").toStdString());
@@ -167,7 +167,7 @@ private slots:
         QVERIFY(stream->ReadLine().empty() && stream->Fault().empty()); // past the end
     }
 
-    void aFailedSaveIsReportedWithItsReasonAndTheNextOneWorks()
+    void failedSavesGiveAReasonAndTheNextOneWorks()
     {
         TestSession session;
         QString const settings = QFileInfo(PreferencesPath()).path();
@@ -189,7 +189,7 @@ private slots:
         QCOMPARE(ContentOf(session.fileToChoose), kTestFile);
     }
 
-    void aNoticeEndsWithOneFullStopWhateverTheSystemSays()
+    void noticesEndWithOneFullStop()
     {
         TestSession session;
         for (char const* const reason : {"Path not found", "Path not found.", "Path not found. "}) {

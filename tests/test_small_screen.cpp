@@ -24,7 +24,7 @@ class SmallScreen final : public QObject {
     Q_OBJECT
 
 private slots:
-    void aWindowIsNoLargerThanTheScreenAndTheOtherSideHasRoomForTheScrollBar()
+    void windowsFitTheScreenWithRoomForScrollBars()
     {
         TestSession const session;
         ::Window1();
@@ -39,7 +39,7 @@ private slots:
         QVERIFY(session.window("Author")->findChild<QScrollArea*>() == nullptr);
     }
 
-    void whatHasTheFocusIsInSight()
+    void focusedControlsAreInSight()
     {
         TestSession const session;
         session.play("total=30" + u"; missed=3 Return"_s.repeated(20));
@@ -64,7 +64,7 @@ private slots:
         }
     }
 
-    void pageKeysScrollTheWindowAndArrowsDoNot()
+    void onlyPageKeysScrollTheWindow()
     {
         TestSession const session;
         auto const* const area = session.widget<QScrollArea>(QString());

@@ -60,7 +60,7 @@ class WindowsAndMenu final : public QObject {
     Q_OBJECT
 
 private slots:
-    void theMenusShowTheirItemsAndNoEmptyOnes()
+    void menusShowOnlyItemsWithCaptions()
     {
         TestSession const session;
         QString shown;
@@ -78,8 +78,8 @@ private slots:
                  "Paste Ctrl+V;Clear ;About Gradeloom... ;"_L1);
     }
 
-    void commandsAreOnByTheWindowInFrontAndTheFocus_data() { AddRows(kCommands); }
-    void commandsAreOnByTheWindowInFrontAndTheFocus()
+    void enabledCommandsFollowTheFrontWindowAndTheFocus_data() { AddRows(kCommands); }
+    void enabledCommandsFollowTheFrontWindowAndTheFocus()
     {
         QFETCH(Commands const*, row);
         TestSession const session;
@@ -96,7 +96,7 @@ private slots:
         QCOMPARE(on.join(u' '), QLatin1String(row->on));
     }
 
-    void eachWindowSwitchesItsOwnCommandsOn()
+    void windowsEnableTheirOwnCommands()
     {
         TestSession const session;
         ::Window1();
@@ -118,7 +118,7 @@ private slots:
         }
     }
 
-    void aCommandOfAnAssistiveProgramIsAnsweredBeforeItRuns()
+    void assistiveCommandsReturnBeforeTheyRun()
     {
         TestSession session({{"There is currently no data to send to the printer."}});
         QList<QAction*> const items = session.menuItems();
@@ -131,7 +131,7 @@ private slots:
         QTRY_VERIFY(session.allBoxesSeen());
     }
 
-    void theAboutWindowOpensThePageAsTheMouseGoesDown()
+    void aboutOpensThePageOnMouseDown()
     {
         TestSession session;
         session.play("About; key Return; key Space");
@@ -149,7 +149,7 @@ private slots:
         QCOMPARE(openedPage_, QUrl(QStringLiteral(WEB_PAGE)));
     }
 
-    void aboutIsOneWindowUntilItCloses()
+    void aboutOpensOnlyOneWindow()
     {
         TestSession const session;
         session.play("About");
@@ -161,7 +161,7 @@ private slots:
         QVERIFY(session.window("Author") == nullptr);
     }
 
-    void noHandlerOfACommandKeepsItFromOthers()
+    void commandHandlersReturnFalse()
     {
         TestSession session({{"There is currently no data to send to the printer."},
                              {"There is currently no data to export to disk."}});
@@ -186,8 +186,8 @@ private slots:
         QVERIFY(!::Author()._FileClose_Action());
     }
 
-    void theChartSplitsIntoThreePairs_data() { AddRows(kCharts); }
-    void theChartSplitsIntoThreePairs()
+    void chartSplitsIntoThreePairs_data() { AddRows(kCharts); }
+    void chartSplitsIntoThreePairs()
     {
         QFETCH(Chart const*, row);
         TestSession const session;
@@ -202,7 +202,7 @@ private slots:
         QCOMPARE(found, QLatin1String(row->chart));
     }
 
-    void eachPressOfGoMakesTheChartAnew()
+    void goReplacesTheChart()
     {
         TestSession session;
         session.play("filepresent");
@@ -217,7 +217,7 @@ private slots:
         session.expectEmpty("ListBox1 ListBox2 ListBox3 ListBox4 ListBox5 ListBox6 ListBox7", "Window1");
     }
 
-    void thePresenterIsOneWindowUntilItCloses()
+    void presenterIsOneWindowUntilItCloses()
     {
         TestSession const session;
         session.play("filepresent");
@@ -240,7 +240,7 @@ private slots:
         session.expectFields("EditField1= ListBox1=", "Window1");
     }
 
-    void theMainWindowClosesByItsCommandAloneAndTheProgramByItsLast()
+    void onlyTheCommandClosesTheMainWindowAndTheLastWindowQuits()
     {
         TestSession const session;
         RunProgram([&] {
@@ -257,7 +257,7 @@ private slots:
         QVERIFY(session.window("Window1") == nullptr && RuntimeExit() == 0);
     }
 
-    void quitEndsTheProgramWithItsWindowsOpen()
+    void quitLogoutAndSignalsEndTheProgram()
     {
         TestSession const session;
         RunProgram([&] { session.play("FileQuit"); });
@@ -286,7 +286,7 @@ private slots:
                  (std::vector{1, 2, 0, 3, 0}));
     }
 
-    void theProgramSurvivesAnExceptionInAHandler()
+    void exceptionsInHandlersAreReported()
     {
         TestSession session;
         RunProgram([&] {
@@ -304,7 +304,7 @@ private slots:
         QCOMPARE(RuntimeExit(), 0);
     }
 
-    void anExceptionAtTheStartEndsTheProgramWithStatusOne()
+    void exceptionAtStartupExitsWithStatusOne()
     {
         QVERIFY(QDir().mkpath(QFileInfo(PreferencesPath()).path()));
         WriteFile(PreferencesPath(), "words\n"); // which the start reports
