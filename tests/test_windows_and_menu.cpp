@@ -106,14 +106,14 @@ private slots:
                         u"About FileReset EditUndo FilePrint FileExport FileOpen filepresent"_s),
               {"Window1", u"FileClose"_s},
               {"Author", u"FileClose"_s}}) {
+            session.activate(window);
             for (QString const& command : commands.split(u' ')) {
                 MenuItem& item = session.form().MenuBar().Item(command.toStdString());
                 item.AutoEnabled = false;
                 item.Enabled(false);
-                session.activate(window);
                 QMetaObject::invokeMethod(session.menuItems()[1]->menu(), "aboutToShow");
-                QVERIFY2(item.Enabled(), qPrintable(command));
                 item.AutoEnabled = true;
+                QVERIFY2(item.Enabled(), qPrintable(window + u": "_s + command));
             }
         }
     }
