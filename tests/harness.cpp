@@ -181,11 +181,6 @@ void TestSession::expectFields(QString const& expected, char const* in, Caller c
     }
 }
 
-void TestSession::expectEmpty(QString const& names, char const* in, Caller caller) const
-{
-    expectFields(QString(names).replace(u" "_s, u"= "_s) + u'=', in, caller);
-}
-
 void TestSession::expectScale(QString const& numbers, Caller caller) const
 {
     QStringList const stated = numbers.split(u' ');

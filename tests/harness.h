@@ -97,8 +97,6 @@ public:
     /// Fails for each control that does not hold its text: "percentage=29 lettergrade=F correct=". A text
     /// ends in front of the next blank that is followed by a name and "=".
     void expectFields(QString const& expected, char const* in = "mainscreen", Caller caller = {}) const;
-    /// Fails for each of these controls that is not empty: "percentage ListBox1".
-    void expectEmpty(QString const& names, char const* in = "mainscreen", Caller caller = {}) const;
     /// Fails for each scale field that differs: "100 99 98" are the first, the others are as in kTestScale.
     void expectScale(QString const& numbers, Caller caller = {}) const;
 

@@ -132,35 +132,6 @@ private slots:
         QVERIFY(kIsWindows || bells == before + 1);
         QVERIFY(AnswerTo(true, [](QMessageBox& box, QTimer const& /*quiet*/) { box.close(); }) == kNo);
     }
-
-    void noticesComeBeforeTheNextKeyAndLoseNone()
-    {
-        TestSession const session;
-        session.play("filepresent");
-        session.activate();
-        session.play("write aplusmin=95; focus amax");
-        TestSession::useRealDoors();
-        int boxes = 0;
-        QTimer closer;
-        connect(&closer, &QTimer::timeout, this, [&boxes] {
-            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (box != nullptr && box == QApplication::activeWindow()) { // no mouse clicks into it before
-                ++boxes;
-                QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
-            }
-        });
-        closer.start(5);
-        session.play("key Tab; keys 94"); // the notice comes at the first key
-        QVERIFY(QTest::qWaitForWindowActive(session.window()));
-        QTRY_COMPARE(boxes, 1);
-        session.activate();
-        session.expectFields("aplusmin=95 amax=94 amin=94");
-        QCOMPARE(QApplication::focusWidget(), session.widget("amin"));
-        // The second Tab goes before the notice.
-        session.play("write aplusmin=96; focus amax; key Tab; key Tab");
-        QTRY_COMPARE(boxes, 2);
-        QCOMPARE(session.field("aminusmax")->selectedText(), "92"_L1);
-    }
 };
 
 GRADELOOM_TEST(Boxes)

@@ -10,64 +10,50 @@ namespace {
 
 char const* const kKinds[] = {"QLineEdit", "QLabel",     "QPushButton", "QCheckBox",
                               "QGroupBox", "QTableView", "QWidget"};
-char const* const kProperties[] = {"text",          "title",    "accessibleName", "toolTip",
-                                   "alignment",     "wordWrap", "default",        "readOnly",
-                                   "selectionMode", "flat",     "acceptDrops"};
+// clang-format off
+char const* const kProperties[] = {
+    "text", "title", "accessibleName", "toolTip", "alignment", "wordWrap", "default", "readOnly", "selectionMode", "flat",
+    "acceptDrops", "enabled",
+};
+// clang-format on
 
-/// The colours that a window of its own colours has, or one of its controls.
-QString ColorsOf(QWidget const& widget)
+/// The colour behind a window's content or a text; empty where it is the desktop's.
+QString ColorOf(QWidget const& widget, QWidget const& content, QPalette::ColorRole role)
 {
-    QPalette const& palette = widget.palette();
-    QString text = "  disabled " + palette.color(QPalette::Disabled, QPalette::Text).name();
-    for (auto const& [name, role] : {std::pair("  base ", QPalette::Base),
-                                     {"  highlight ", QPalette::Highlight},
-                                     {"  highlighted ", QPalette::HighlightedText}}) {
-        text += name + palette.color(role).name();
-    }
-    return text;
+    return content.autoFillBackground() ? "  " + widget.palette().color(role).name() : QString();
 }
 
 QString WindowLine(QWidget const& window, QWidget const& content)
 {
     QString line = u"%1  %2x%3"_s.arg(window.windowTitle()).arg(content.width()).arg(content.height());
     line += window.minimumSize() == window.maximumSize() ? "  fixed size" : "  can be resized";
-    for (auto const& [hint, name] : {std::pair(Qt::WindowTitleHint, "title"),
-                                     {Qt::WindowCloseButtonHint, "close box"},
-                                     {Qt::WindowMinimizeButtonHint, "minimize box"},
-                                     {Qt::WindowMaximizeButtonHint, "maximize box"}}) {
-        line += window.windowFlags().testFlag(hint) ? u"  "_s + name : QString();
-    }
-    QString const color = content.palette().color(QPalette::Window).name();
-    return content.autoFillBackground() ? line + "  " + color + ColorsOf(content) : line;
+    line += window.windowFlags().testFlag(Qt::WindowCloseButtonHint) ? "  close box" : "";
+    line += window.windowFlags().testFlag(Qt::WindowMinimizeButtonHint) ? "  minimize box" : "";
+    line += window.windowFlags().testFlag(Qt::WindowMaximizeButtonHint) ? "  maximize box" : "";
+    return line + ColorOf(content, content, QPalette::Window);
 }
 
 QString ControlLine(QWidget const& control, QWidget const& content)
 {
     QRect const place(control.mapTo(&content, QPoint()), control.size());
     char const* const kind = *std::ranges::find_if(kKinds, [&](auto one) { return control.inherits(one); });
-    auto const* const label = qobject_cast<QLabel const*>(&control);
     QString line = u"%1  %2  %3,%4 %5x%6"_s.arg(QLatin1String(kind), control.objectName()).arg(place.x());
     line = line.arg(place.y()).arg(place.width()).arg(place.height());
-    for (auto const& [holds, word] : {std::pair(control.font().pixelSize() == 12, "size 12"),
-                                      {control.font().bold(), "bold"},
-                                      {control.isHidden(), "hidden"},
-                                      {!control.isEnabled(), "disabled"},
-                                      {(control.focusPolicy() & Qt::TabFocus) != 0, "tab stop"},
-                                      {(control.focusPolicy() & Qt::ClickFocus) != 0, "focus by click"}}) {
-        line += holds ? u"  "_s + word : QString();
-    }
+    line += control.font().pixelSize() == 12 ? "  size 12" : "";
+    line += control.isHidden() ? "  hidden" : "";
+    line += control.font().bold() ? "  bold" : "";
+    line += (control.focusPolicy() & Qt::TabFocus) != 0 ? "  tab stop" : "";
+    line += (control.focusPolicy() & Qt::ClickFocus) != 0 ? "  focus by click" : "";
     for (char const* const property : kProperties) {
         QVariant const value = control.property(property);
         QString const text =
             value.typeId() == QMetaType::QString ? value.toString() : QString::number(value.toInt());
-        bool const isUsual = text.isEmpty() || text == u'0';
-        line += isUsual ? QString()
-                        : u"  %1 \"%2\""_s.arg(QLatin1String(property), text).replace(u'\n', u"\\n"_s);
+        bool const isSaid = !text.isEmpty() && text != u'0';
+        line += isSaid ? u"  %1 \"%2\""_s.arg(QLatin1String(property), text).replace(u'\n', u"\\n"_s) : u""_s;
     }
-    line +=
-        label != nullptr && label->buddy() != nullptr ? "  of " + label->buddy()->objectName() : QString();
-    bool const hasColors = content.autoFillBackground() && ColorsOf(control) != ColorsOf(content);
-    return hasColors ? line + ColorsOf(control) : line;
+    auto const* const label = qobject_cast<QLabel const*>(&control);
+    line += label != nullptr && label->buddy() != nullptr ? "  of " + label->buddy()->objectName() : u""_s;
+    return line + ColorOf(control, content, QPalette::Base);
 }
 
 /// A line for the window and one for each of its controls, in the order of the keyboard.

@@ -126,7 +126,7 @@ private slots:
         session.play(row->acts);
         QCOMPARE(writes.trimmed(), QLatin1String(row->writes));
         if (row->areEmptied) {
-            session.expectEmpty(row->writes);
+            session.expectFields(QString(row->writes).replace(u" "_s, u"= "_s) + u'=');
         }
     }
 
@@ -158,17 +158,11 @@ private slots:
         session.expectFields("total=37.5 numstudents=1 ListBox1=1,91.891,%");
     }
 
-    void listShowsNumbersPercentagesAndItsLastRow()
+    void listScrollsToItsLastRow()
     {
         TestSession const session;
         session.play("total=30" + u"; missed=3 Return"_s.repeated(20));
         auto const* const list = session.widget<QTableView>("ListBox1");
-        auto const cell = [list](int column) { return list->model()->index(19, column); };
-        QVERIFY(list->visualRect(cell(0)).width() == 20 && list->visualRect(cell(1)).width() == 65);
-        QCOMPARE(list->visualRect(cell(2)).right(), list->viewport()->rect().right());
-        QCOMPARE(list->visualRect(cell(0)).height(), 16);
-        QVERIFY((cell(1).data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight) != 0);
-        QVERIFY((cell(2).data(Qt::TextAlignmentRole).toInt() & Qt::AlignLeft) != 0);
         QScrollBar const* const bar = list->verticalScrollBar();
         QVERIFY(bar->maximum() == 20 * 16 - list->viewport()->height() && bar->value() == bar->maximum());
         QVERIFY(bar->singleStep() == 16 && bar->pageStep() == list->viewport()->height());

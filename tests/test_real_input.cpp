@@ -169,17 +169,6 @@ private slots:
         }
 #endif
     }
-
-    void assistiveEditsReturnBeforeTheyAreTyped()
-    {
-        TestSession const session;
-        QWidget* const missed = session.widget("missed");
-        QAccessible::queryAccessibleInterface(missed)->setText(QAccessible::Value, u"5\n"_s);
-        session.expectFields("missed=");
-        QCoreApplication::processEvents();
-        session.expectFields("missed=5");
-        QCOMPARE(QApplication::focusWidget(), missed);
-    }
 };
 
 GRADELOOM_TEST(RealInput)

@@ -1,6 +1,5 @@
 #include "frame/author.h"
 #include "frame/startup.h"
-#include "platform/application.h"
 #include "platform/file_dialogs.h"
 #include "platform/printing.h"
 #include "platform/qt/system/native.h"
@@ -214,7 +213,8 @@ private slots:
         session.expectBox("This feature of Gradeloom can only present 105 percentages.");
         session.type("EditField1", "106\n", "Window1");
         session.expectFields("EditField1=106", "Window1");
-        session.expectEmpty("ListBox1 ListBox2 ListBox3 ListBox4 ListBox5 ListBox6 ListBox7", "Window1");
+        session.expectFields("ListBox1= ListBox2= ListBox3= ListBox4= ListBox5= ListBox6= ListBox7=",
+                             "Window1");
     }
 
     void presenterIsOneWindowUntilItCloses()
@@ -278,12 +278,6 @@ private slots:
                  "gradeloomgradeloom"_L1);
         QVERIFY(!QGuiApplication::quitOnLastWindowClosed());
         QCOMPARE(QGuiApplication::windowIcon().availableSizes(), QList{QSize(16, 16)});
-        Application const& app = *_RuntimeAppObject();
-        QCOMPARE(app.LongVersion + app.ShortVersion + app.PackageInfo,
-                 std::string("Gradeloom 1.2.2Gradeloom XGradeloom 1.2.2 Orrin Vale"));
-        QCOMPARE((std::vector{app.MajorVersion, app.MinorVersion, app.BugVersion, app.StageCode,
-                              app.NonReleaseVersion}),
-                 (std::vector{1, 2, 0, 3, 0}));
     }
 
     void exceptionsInHandlersAreReported()
