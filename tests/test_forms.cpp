@@ -56,11 +56,18 @@ QString ControlLine(QWidget const& control, QWidget const& content)
     return line + ColorOf(control, content, QPalette::Base);
 }
 
-/// A line for the window and one for each of its controls, in the order of the keyboard.
-QStringList FormOf(QWidget& window)
+/// A line for the window, one for each item that its menus show and one for each control in the order of the keyboard.
+QStringList FormOf(QMainWindow& window, QList<QAction*> const& items)
 {
     QWidget const& content = *window.findChild<QWidget*>("StaticText1")->parentWidget();
     QStringList lines = {WindowLine(window, content)};
+    for (QAction const* const item : items) {
+        QString const shown = item->isSeparator() ? u"separator"_s : item->text();
+        QString const keys = item->shortcut().toString(QKeySequence::PortableText);
+        QString const line =
+            u"menu  %1  %2  %3"_s.arg(shown, keys, item->autoRepeat() ? u"repeats"_s : u""_s);
+        lines += item->isVisible() ? QStringList(line.trimmed()) : QStringList();
+    }
     for (QWidget* it = window.nextInFocusChain(); it != &window; it = it->nextInFocusChain()) {
         if (content.isAncestorOf(it) && !it->objectName().isEmpty() && !it->objectName().startsWith(u"qt_")) {
             lines += ControlLine(*it, content);
@@ -96,10 +103,12 @@ private slots:
         TestSession const session;
         session.play("PushButton3; filepresent");
         QCOMPARE(session.texts(kScaleFieldNames), session.startScale); // so the form is that of the start
+        QVERIFY(session.form().UntitledMenu2().Visible()); // has no caption, and keeps its properties
         ::Author();
         for (char const* const name : {"mainscreen", "Window1", "Author"}) {
             QString const path = QStringLiteral(FORMS_FOLDER "/%1.txt").arg(QLatin1String(name));
-            QStringList const found = FormOf(*session.window(name));
+            session.activate(name);
+            QStringList const found = FormOf(*session.window(name), session.menuItems());
             if (isWriting_) {
                 WriteFile(path, found.join(u'\n').toUtf8() + '\n');
             }

@@ -59,24 +59,6 @@ class WindowsAndMenu final : public QObject {
     Q_OBJECT
 
 private slots:
-    void menusShowOnlyItemsWithCaptions()
-    {
-        TestSession const session;
-        QString shown;
-        for (QAction const* const item : session.menuItems()) {
-            QVERIFY2(!item->autoRepeat(), qPrintable(item->text())); // a key held down acts once
-            if (item->isVisible()) {
-                shown += (item->isSeparator() ? u"-"_s : item->text()) + u' ' +
-                         item->shortcut().toString(QKeySequence::PortableText) + u';';
-            }
-        }
-        QVERIFY(session.form().FileOpen().Visible() && session.form().UntitledMenu2().Visible());
-        QCOMPARE(shown,
-                 "File ;Open Grading Scale... Ctrl+O;Presenter Ctrl+T;Close Ctrl+W;Export Results... Ctrl+E;"
-                 "Reset Ctrl+R;Print... Ctrl+P;Quit Ctrl+Q;Edit ;Undo Ctrl+Z;- ;Cut Ctrl+X;Copy Ctrl+C;"
-                 "Paste Ctrl+V;Clear ;About Gradeloom... ;"_L1);
-    }
-
     void enabledCommandsFollowTheFrontWindowAndTheFocus_data() { AddRows(kCommands); }
     void enabledCommandsFollowTheFrontWindowAndTheFocus()
     {
