@@ -193,7 +193,7 @@ private: // NOLINT(readability-redundant-access-specifiers): what follows are no
     {
         PlatformDoors().messageBox = [this](auto const& request) {
             int const answer = below(8) == 0 ? kYes : kNo;
-            bool const isLater = below(3) == 0 && !Runtime::instance().isEnding;
+            bool const isLater = below(6) == 0 && !Runtime::instance().isEnding;
             return isLater ? answerLater(request, answer) : answer;
         };
         PlatformDoors().fileDialog = [this](auto const&) {
