@@ -94,9 +94,6 @@ QString Difference(QStringList const& expected, QStringList const& found)
 class Forms final : public QObject {
     Q_OBJECT
 
-public:
-    explicit Forms(bool isWriting) : isWriting_(isWriting) {}
-
 private slots:
     void windowsMatchTheirForms()
     {
@@ -121,6 +118,9 @@ private slots:
                      qPrintable(u"\"%1 write\" takes this over:%2"_s.arg(program, difference)));
         }
     }
+
+public:
+    explicit Forms(bool isWriting) : isWriting_(isWriting) {}
 
 private:
     bool isWriting_;
