@@ -67,9 +67,10 @@ void PressKey(QString const& name, Caller caller)
 {
     QKeyCombination const key = QKeySequence(name)[0];
     if (key.key() == 0 || key.key() == Qt::Key_unknown) {
-        return Fail("there is no such key: " + name, caller);
+        Fail("there is no such key: " + name, caller);
+    } else {
+        QTest::keyClick(QApplication::focusWidget(), key.key(), key.keyboardModifiers());
     }
-    QTest::keyClick(QApplication::focusWidget(), key.key(), key.keyboardModifiers());
 }
 
 } // namespace
@@ -206,7 +207,8 @@ void TestSession::activate(char const* name, Caller caller) const
 {
     QMainWindow* const wanted = window(name);
     if (wanted == nullptr) {
-        return Fail(u"there is no such window: "_s + name, caller);
+        Fail(u"there is no such window: "_s + name, caller);
+        return;
     }
     wanted->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(wanted));
