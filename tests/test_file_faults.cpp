@@ -177,7 +177,7 @@ private slots:
             return count;
         };
         int const before = inherited();
-        std::signal(SIGHUP, SIG_IGN); // as nohup starts a program
+        QVERIFY(std::signal(SIGHUP, SIG_IGN) != SIG_ERR); // as nohup starts a program
         HandleSignals([] {});
         QCOMPARE(inherited(), before);
         QVERIFY(std::signal(SIGHUP, SIG_DFL) == SIG_IGN);
