@@ -14,6 +14,7 @@
 #include <QPrinter>
 #include <QRegularExpression>
 #include <QStandardPaths>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -45,6 +46,11 @@ bool IsExpected(MessageBoxRequest const& request, TestSession::Box const& box)
            request.title.empty() && request.question == (box.answer != 0);
 }
 
+void Fail(QString const& message, Caller caller)
+{
+    QTest::qFail(qPrintable(message), caller.file, caller.line);
+}
+
 void Drop(QWidget* field, QString const& text)
 {
     QMimeData data;
@@ -56,10 +62,25 @@ void Drop(QWidget* field, QString const& text)
     QCoreApplication::processEvents();
 }
 
+/// Presses a key: "Ctrl+Z".
+void PressKey(QString const& name, Caller caller)
+{
+    QKeyCombination const key = QKeySequence(name)[0];
+    if (key.key() == 0 || key.key() == Qt::Key_unknown) {
+        Fail("there is no such key: " + name, caller);
+    } else {
+        QTest::keyClick(QApplication::focusWidget(), key.key(), key.keyboardModifiers());
+    }
+}
+
 } // namespace
 
 void StartAgain()
 {
+    if (Runtime::instance().isEnding) { // and so is the toolkit, until its event loop has run once more
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        QApplication::exec();
+    }
     Runtime::instance().isEnding = false;
 }
 
@@ -68,7 +89,8 @@ TestSession::TestSession(std::vector<Box> boxes) : expectedBoxes_(std::move(boxe
     StartAgain();
     PlatformDoors().messageBox = [this](MessageBoxRequest const& request) {
         lastBox = request.text;
-        if (isBoxUp_ || expectedBoxes_.empty() || !IsExpected(request, expectedBoxes_.front())) {
+        if (window() == nullptr || isBoxUp_ || expectedBoxes_.empty() ||
+            !IsExpected(request, expectedBoxes_.front())) {
             QTest::qFail(("unexpected box: " + request.text).c_str(), __FILE__, __LINE__);
             return kNo;
         }
@@ -96,6 +118,10 @@ TestSession::TestSession(std::vector<Box> boxes) : expectedBoxes_(std::move(boxe
     };
     PlatformDoors().browser = [this](std::string const& address) { openedAddress = address; };
     ::mainscreen();
+    startScale = texts(kScaleFieldNames);
+    if (!QFile::exists(PreferencesPath())) {
+        writeTestScale();
+    }
     activate();
 }
 
@@ -113,6 +139,7 @@ void TestSession::useRealDoors()
     PlatformDoors().messageBox = realDoors.messageBox;
     PlatformDoors().fileDialog = realDoors.fileDialog;
     PlatformDoors().printDialog = realDoors.printDialog;
+    PlatformDoors().browser = realDoors.browser;
 }
 
 QMainWindow* TestSession::window(char const* name) const
@@ -125,9 +152,14 @@ QMainWindow* TestSession::window(char const* name) const
     return nullptr;
 }
 
-QString TestSession::text(QString const& name, char const* in) const
+void TestSession::reportMissing(QString const& name, char const* in, Caller caller)
 {
-    QWidget const* const control = widget(name, in);
+    Fail(u"there is no such control or command: \"%1\" in \"%2\""_s.arg(name, QLatin1String(in)), caller);
+}
+
+QString TestSession::text(QString const& name, char const* in, Caller caller) const
+{
+    QWidget const* const control = widget(name, in, caller);
     auto const* const rows = control->findChild<QAbstractTableModel*>();
     return rows != nullptr ? RowsOf(*rows) : control->property("text").toString();
 }
@@ -141,27 +173,22 @@ QString TestSession::texts(QString const& names, char const* in) const
     return all.join(u'|');
 }
 
-void TestSession::expectFields(QString const& expected, char const* in, char const* file, int line) const
+void TestSession::expectFields(QString const& expected, char const* in, Caller caller) const
 {
     for (auto const& match : kNameAndText.globalMatch(expected)) {
-        if (QString const found = text(match.captured(1), in); found != match.captured(2)) {
-            QTest::qFail(qPrintable(u"found \"%1\", expected %2"_s.arg(found, match.captured())), file, line);
+        if (QString const found = text(match.captured(1), in, caller); found != match.captured(2)) {
+            Fail(u"found \"%1\", expected %2"_s.arg(found, match.captured()), caller);
         }
     }
 }
 
-void TestSession::expectEmpty(QString const& names, char const* in, char const* file, int line) const
-{
-    expectFields(QString(names).replace(u" "_s, u"= "_s) + u'=', in, file, line);
-}
-
-void TestSession::expectScale(QString const& numbers, char const* file, int line) const
+void TestSession::expectScale(QString const& numbers, Caller caller) const
 {
     QStringList const stated = numbers.split(u' ');
     QStringList const names = QString(kScaleFieldNames).split(u' ');
-    QStringList const defaults = QString(kDefaultScale).split(u' ');
+    QStringList const others = QString(kTestScale).split(u' ');
     for (qsizetype i = 0; i < names.size(); ++i) {
-        expectFields(names[i] + u'=' + stated.value(i, defaults[i]), "mainscreen", file, line);
+        expectFields(names[i] + u'=' + stated.value(i, others[i]), "mainscreen", caller);
     }
 }
 
@@ -169,38 +196,53 @@ QList<QAction*> TestSession::menuItems() const
 {
     QList<QAction*> all;
     auto* const front = qobject_cast<QMainWindow*>(QApplication::activeWindow());
-    for (QAction* const menu : front->menuBar()->actions()) {
+    for (QAction* const menu : front != nullptr ? front->menuBar()->actions() : QList<QAction*>()) {
         all += menu;
         all += menu->menu() != nullptr ? menu->menu()->actions() : QList<QAction*>();
     }
     return all;
 }
 
-void TestSession::activate(char const* name) const
+void TestSession::activate(char const* name, Caller caller) const
 {
-    window(name)->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(window(name)));
+    QMainWindow* const wanted = window(name);
+    if (wanted == nullptr) {
+        Fail(u"there is no such window: "_s + name, caller);
+        return;
+    }
+    wanted->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(wanted));
 }
 
-QLineEdit* TestSession::enterField(QString const& name) const
+QLineEdit* TestSession::enterField(QString const& name, Caller caller) const
 {
-    widget(name)->setFocus(Qt::TabFocusReason);
-    QCoreApplication::processEvents();
-    return field(name);
+    play("focus " + name, caller);
+    return field(name, "mainscreen", caller);
 }
 
-void TestSession::type(QString const& name, QString const& text, char const* in) const
+void TestSession::type(QString const& name, QString const& text, char const* in, Caller caller) const
 {
-    widget(name, in)->setFocus();
-    field(name, in)->selectAll();
-    QTest::keyClick(widget(name, in), Qt::Key_Delete);
-    QTest::keyClicks(widget(name, in), QString(text).replace(u'\n', u'\r'));
+    QLineEdit* const one = field(name, in, caller);
+    one->setFocus();
+    one->selectAll();
+    QTest::keyClick(one, Qt::Key_Delete);
+    QTest::keyClicks(one, QString(text).replace(u'\n', u'\r'));
 }
 
-void TestSession::setFields(QString const& fields) const
+void TestSession::setFields(QString const& fields, Caller caller) const
 {
     for (auto const& match : kNameAndText.globalMatch(fields)) {
-        static_cast<LineEdit*>(widget(match.captured(1)))->writeByProgram(match.captured(2));
+        if (auto* const one = dynamic_cast<LineEdit*>(field(match.captured(1), "mainscreen", caller))) {
+            one->writeByProgram(match.captured(2));
+        }
+    }
+}
+
+void TestSession::writeTestScale() const
+{
+    for (int i = 0; i < 24; ++i) {
+        setFields(QString(kScaleFieldNames).section(u' ', i, i) + u'=' +
+                  QString(kTestScale).section(u' ', i, i));
     }
 }
 
@@ -209,57 +251,66 @@ void TestSession::enterScores(QString const& points, QStringList const& missed) 
     play("total=" + points + "; missed=" + missed.join(u" Return; missed=") + " Return");
 }
 
-void TestSession::play(QString const& acts) const
+void TestSession::play(QString const& acts, Caller caller) const
 {
     QList<QAction*> const items = menuItems();
+    auto const control = [&](QString const& name) { return widget(name, "mainscreen", caller); };
     for (QString const& act : acts.split(u"; "_s)) {
         QString const word = act.section(u' ', 0, 0);
         QString const rest = act.section(u' ', 1);
         auto const command = std::ranges::find(items, act, &QAction::objectName);
+        if (QApplication::focusWidget() == nullptr) { // a box was open
+            activate("mainscreen", caller);
+        }
         if (word == "write"_L1) {
-            setFields(rest);
+            setFields(rest, caller);
         } else if (word == "focus"_L1) {
-            static_cast<void>(enterField(rest));
+            control(rest)->setFocus(Qt::TabFocusReason);
+            QCoreApplication::processEvents();
         } else if (word == "key"_L1) {
-            QKeyCombination const key = QKeySequence(rest)[0];
-            QTest::keyClick(QApplication::focusWidget(), key.key(), key.keyboardModifiers());
+            PressKey(rest, caller);
         } else if (word == "keys"_L1) {
             QTest::keyClicks(QApplication::focusWidget(), rest);
         } else if (word == "paste"_L1) {
             QGuiApplication::clipboard()->setText(rest);
-            play("EditPaste");
+            play("EditPaste", caller);
         } else if (word == "compose"_L1 || word == "commit"_L1) {
             QInputMethodEvent event(word == "compose"_L1 ? rest : QString(), {});
             event.setCommitString(word == "commit"_L1 ? rest : QString());
             QCoreApplication::sendEvent(QApplication::focusWidget(), &event);
         } else if (word == "drop"_L1) {
-            Drop(widget(rest.section(u' ', 0, 0)), rest.section(u' ', 1));
+            Drop(control(rest.section(u' ', 0, 0)), rest.section(u' ', 1));
         } else if (word == "edit"_L1) {
-            auto* const spoken = QAccessible::queryAccessibleInterface(widget(rest.section(u' ', 0, 0)));
+            auto* const spoken = QAccessible::queryAccessibleInterface(control(rest.section(u' ', 0, 0)));
             spoken->setText(QAccessible::Value, rest.section(u' ', 1));
             QCoreApplication::processEvents(); // it is answered first
         } else if (act.contains(u'=')) {
-            type(act.section(u'=', 0, 0), act.section(u'=', 1).replace(u" Return"_s, u"\n"_s));
+            QString const text = act.section(u'=', 1).replace(u" Return"_s, u"\n"_s);
+            type(act.section(u'=', 0, 0), text, "mainscreen", caller);
         } else if (command != items.end()) {
             (*command)->trigger();
             QCoreApplication::processEvents(); // without a key or click it runs a moment later
         } else {
-            QTest::mouseClick(widget(act), Qt::LeftButton);
+            QTest::mouseClick(control(act), Qt::LeftButton);
         }
     }
 }
 
-void CheckScenario(QString const& before)
+void CheckScenario(QString const& before, Caller caller)
 {
     QFETCH(Scenario const*, row);
     TestSession const session(row->boxes);
-    session.play(before + row->acts);
-    session.expectFields(row->fields);
+    session.play(before + row->acts, caller);
+    session.expectFields(row->fields, "mainscreen", caller);
 }
 
 QString PreferencesPath()
 {
+#ifdef Q_OS_LINUX // where the path is known; in the toolkit's test mode the folder ".config" is elsewhere
+    return QDir::homePath() + u"/.qttest/config/gradeloom/Preferences"_s;
+#else
     return QString::fromStdString(GetFolderItem("Preferences", 0).value_or(FolderItem("")).Path());
+#endif
 }
 
 QByteArray ContentOf(QString const& path)

@@ -22,6 +22,9 @@ inline constexpr char const* kTooManyMissed =
 inline constexpr char const* kScaleRepaired =
     "An attempt was made to fix the grading scale. You should check "
     "these modifications before saving the settings.";
+inline constexpr char const* kScaleUnsound =
+    "Gradeloom has found problems with the grading scale which must be fixed to continue. Would you like "
+    "Gradeloom to fix them for you?";
 inline constexpr char const* kPointsAreFixed =
     "To change the number of points, you must first reset the current data.";
 inline constexpr char const* kDeletesData =
@@ -29,16 +32,26 @@ inline constexpr char const* kDeletesData =
     "delete the data you have entered so far. Are you sure you want to do this?";
 inline constexpr char const* kHistoryLists = "ListBox1 ListBox2 ListBox3 ListBox4 ListBox5";
 
-/// The 24 scale fields in their order, and their default texts.
+/// The 24 scale fields in their order, and the scale that a session of tests begins with, whatever the default is.
 inline constexpr char const* kScaleFieldNames =
     "aplusmax aplusmin amax amin aminusmax aminusmin bplusmax bplusmin bmax bmin bminusmax bminusmin "
     "cplusmax cplusmin cmax cmin cminusmax cminusmin dplusmax dplusmin dmax dmin dminusmax dminusmin";
-inline constexpr char const* kDefaultScale =
+inline constexpr char const* kTestScale =
     "100 98 97 93 92 90 89 88 87 83 82 80 79 78 77 73 72 70 69 68 67 63 62 60";
 
+/// The line of a test that a failure names.
+struct Caller {
+    Caller(char const* inFile = __builtin_FILE(), int inLine = __builtin_LINE()) : file(inFile), line(inLine)
+    {
+    }
+
+    char const* file;
+    int line;
+};
+
 /// The program from its start to its end, with every message box and dialog answered by the test. A box that
-/// the test did not expect, or a second one at once, fails it and is answered with No; an expected box that
-/// does not come fails it too.
+/// the test did not expect, a second one at once, or one before there is a window fails it and is answered with
+/// No; an expected box that does not come fails it too.
 class TestSession {
     Q_DISABLE_COPY(TestSession)
 
@@ -59,14 +72,18 @@ public:
 
     [[nodiscard]] class mainscreen& form() const { return ::mainscreen(); }
     [[nodiscard]] QMainWindow* window(char const* name = "mainscreen") const;
+    /// A control. If there is none of this name and type the test fails, and gets one that has no effect.
     template <class Type = QWidget>
-    [[nodiscard]] Type* widget(QString const& name, char const* in = "mainscreen") const
+    [[nodiscard]] Type* widget(QString const& name, char const* in = "mainscreen", Caller caller = {}) const
     {
-        return window(in)->findChild<Type*>(name);
+        QMainWindow* const parent = window(in);
+        auto* const found = parent != nullptr ? parent->findChild<Type*>(name) : nullptr;
+        return found != nullptr ? found : (reportMissing(name, in, caller), new Type(parent));
     }
-    [[nodiscard]] QLineEdit* field(QString const& name, char const* in = "mainscreen") const
+    [[nodiscard]] QLineEdit* field(QString const& name, char const* in = "mainscreen",
+                                   Caller caller = {}) const
     {
-        return widget<QLineEdit>(name, in);
+        return widget<QLineEdit>(name, in, caller);
     }
     /// The menus of the window in front, each followed by its items.
     [[nodiscard]] QList<QAction*> menuItems() const;
@@ -74,39 +91,37 @@ public:
     [[nodiscard]] QString pathOf(char const* name) const { return folder_.filePath(QLatin1String(name)); }
 
     /// The text of a control. A list's rows are separated by ";", its cells by ",".
-    [[nodiscard]] QString text(QString const& name, char const* in = "mainscreen") const;
+    [[nodiscard]] QString text(QString const& name, char const* in = "mainscreen", Caller caller = {}) const;
     /// The texts of several controls, separated by "|".
     [[nodiscard]] QString texts(QString const& names, char const* in = "mainscreen") const;
     /// Fails for each control that does not hold its text: "percentage=29 lettergrade=F correct=". A text
     /// ends in front of the next blank that is followed by a name and "=".
-    void expectFields(QString const& expected, char const* in = "mainscreen",
-                      char const* file = __builtin_FILE(), int line = __builtin_LINE()) const;
-    /// Fails for each of these controls that is not empty: "percentage ListBox1".
-    void expectEmpty(QString const& names, char const* in = "mainscreen", char const* file = __builtin_FILE(),
-                     int line = __builtin_LINE()) const;
-    /// Fails for each scale field that differs: "100 99 98" are the first, the others have their default.
-    void expectScale(QString const& numbers, char const* file = __builtin_FILE(),
-                     int line = __builtin_LINE()) const;
+    void expectFields(QString const& expected, char const* in = "mainscreen", Caller caller = {}) const;
+    /// Fails for each scale field that differs: "100 99 98" are the first, the others are as in kTestScale.
+    void expectScale(QString const& numbers, Caller caller = {}) const;
 
     /// Brings the window to the front and waits until it is active.
-    void activate(char const* name = "mainscreen") const;
-    /// Moves the focus to a control as Tab does; its GotFocus has been raised when this returns.
-    [[nodiscard]] QLineEdit* enterField(QString const& name) const;
+    void activate(char const* name = "mainscreen", Caller caller = {}) const;
+    /// Moves the focus to a field as Tab does; its GotFocus has been raised when this returns.
+    [[nodiscard]] QLineEdit* enterField(QString const& name, Caller caller = {}) const;
     /// Replaces a field's text by typing, key by key; a line end is a press of Return.
-    void type(QString const& name, QString const& text, char const* in = "mainscreen") const;
+    void type(QString const& name, QString const& text, char const* in = "mainscreen",
+              Caller caller = {}) const;
     /// Types the number of points, then each number missed with Return.
     void enterScores(QString const& points, QStringList const& missed) const;
     /// Writes texts as the program does: "amin=80 amax=97".
-    void setFields(QString const& fields) const;
-    /// Carries acts out in their order, separated by "; ":
+    void setFields(QString const& fields, Caller caller = {}) const;
+    void writeTestScale() const;
+    /// Carries acts out in their order, separated by "; ", and fails for a name that the form does not have:
     ///   missed=3     types into the field, "missed=3 Return" presses Return then
     ///   EditUndo     chooses the command of that name, or else clicks the control
     ///   focus amin   enters the field; key Left, keys 96 and paste 12 act on the focused one, and so do compose 9
     ///                and commit 9 of an input method
     ///   drop amax 6  drops a text on the field; edit amax 6 sets it as an assistive program does
     ///   write amin=80 amax=97   writes as the program does
-    void play(QString const& acts) const;
+    void play(QString const& acts, Caller caller = {}) const;
 
+    QString startScale;                          ///< the texts of the scale before the tests' own was written
     std::string openedAddress;                   ///< the last address that was to be opened
     QString fileToChoose;                        ///< the file that the dialogs choose; empty cancels them
     std::vector<FileDialogRequest> dialogs;      ///< the dialogs that came; for a print dialog all is empty
@@ -116,6 +131,8 @@ public:
     std::string lastBox;                         ///< the text of the last box
 
 private:
+    static void reportMissing(QString const& name, char const* in, Caller caller);
+
     std::vector<Box> expectedBoxes_;
     bool isBoxUp_ = false;
     QTemporaryDir folder_;
@@ -140,7 +157,7 @@ void AddRows(Row const (&table)[count])
 }
 
 /// Plays the scenario of the current row after these acts, if any.
-void CheckScenario(QString const& before = {});
+void CheckScenario(QString const& before = {}, Caller caller = {});
 /// Lets the program run once more in this process, after it has ended.
 void StartAgain();
 /// The scale file that is read at the start.

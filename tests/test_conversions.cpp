@@ -70,6 +70,22 @@ struct Writing {
     {9007199254740993.0, "9007199254740992"}, // whole numbers keep all digits
     {Limits::quiet_NaN(), "NaN"},
 };
+
+// One conversion reads an exponent, the other does not: where each of them reads what a user or a file has brought.
+Scenario const kSites[] = {
+    {"the number missed, Val", "total=30; missed=4e1 Return", {}, "lastmissed=4 numstudents=1"},
+    {"the number correct, Val", "total=30; checkcorrect; correct=2e1 Return", {}, "lastmissed=28 percentage=6.66"},
+    {"whether there are points, CDbl", "total=1e-999; missed=0 Return", {{kNeedsPoints}}, "numstudents= missed=0"},
+    {"the number of points, Val", "total=2.5e1; missed=1 Return", {}, "percentage=50 numstudents=1"},
+    {"the scale at a press of Grade, Val", "write aminusmin=9e1; total=30; missed=3 Return", {{kScaleUnsound, kNo}},
+     "aminusmin=9e1 numstudents="},
+    {"the top of the scale, Val", "write aplusmax=1e2; total=30; missed=3 Return", {{kScaleUnsound, kYes}},
+     "aplusmax=100 numstudents=1"},
+    {"the minimum of a boundary, CDbl", "write aplusmin=9.8e1; focus amin", {}, "aplusmin=9.8e1 amax=97"},
+    {"the maximum of a boundary, CDbl", "write amax=9.7e1; focus amin", {}, "aplusmin=98 amax=9.7e1"},
+    {"the lowest minimum at a save, CDbl", "write dminusmin=1.5e1; PushButton2", {}, "dminusmin=15"},
+    {"the stored text, CDbl", "total=30; missed=3 Return; write dmax=1e-1; focus dmax; key 5", {{kDeletesData, kNo}}, "dmax=5"},
+};
 // clang-format on
 
 /// A locale that writes 1234.5 as 1.234,5.
@@ -86,14 +102,14 @@ class Conversions final : public QObject {
     Q_OBJECT
 
 private slots:
-    void readingTakesThePlainNumberThatATextStartsWith()
+    void textsAreReadUpToWhereTheirNumberEnds()
     {
         for (auto const& [text, val, cdbl] : kReadings) {
             QVERIFY2(Val(text) == val && CDbl(text) == cdbl, text.c_str());
         }
     }
 
-    void strWritesSevenDigitsPlainlyAndFormatCutsAtThePatternsDecimals()
+    void strKeepsSevenDigitsAndFormatTruncates()
     {
         for (auto const& [number, seven, two, three] : kWritings) {
             QCOMPARE(Str(number), std::string(seven));
@@ -104,15 +120,18 @@ private slots:
         QVERIFY(Str(Integer{0}) == "0" && Str(kLowest) == "-9223372036854775808");
     }
 
-    void noLocaleChangesANumber()
+    void numbersIgnoreTheLocale()
     {
         std::locale const before = std::locale::global(std::locale(std::locale(), new CommaLocale));
-        readingTakesThePlainNumberThatATextStartsWith();
-        strWritesSevenDigitsPlainlyAndFormatCutsAtThePatternsDecimals();
+        textsAreReadUpToWhereTheirNumberEnds();
+        strKeepsSevenDigitsAndFormatTruncates();
         std::locale::global(before);
     }
 
-    void halvesRoundAwayFromZeroAndIntegersTruncateAndSaturate()
+    void exponentsAreReadOnlyWhereTheyCount_data() { AddRows(kSites); }
+    void exponentsAreReadOnlyWhereTheyCount() { CheckScenario(); }
+
+    void halvesRoundUpAndIntegersTruncateAndSaturate()
     {
         QVERIFY(Round(89.5) == 90.0 && Round(88.5) == 89.0 && Round(-0.5) == -1.0 && Round(89.49) == 89.0);
         QVERIFY(Round(0.49999999999999994) == 0.0); // adding a half first would make it 1
@@ -123,7 +142,7 @@ private slots:
         QVERIFY(Sum(kLowest, -1) == kLowest && Sum(kLowest + 1, -1) == kLowest && Sum(2, 0) == 2);
     }
 
-    void everyScoreComesBackAsShownAndRoundsAlikeAndRightInBothModes()
+    void everyScoreRoundsCorrectlyInBothModes()
     {
         for (int points = 1; points <= 1000; ++points) {
             for (int correct = 0; correct <= points; ++correct) {

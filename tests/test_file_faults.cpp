@@ -1,10 +1,12 @@
 #include "tests/harness.h"
 
 #include "platform/files.h"
+#include "platform/qt/system/native.h"
 
 #include <QDir>
 
 #include <cerrno>
+#include <csignal>
 #include <cstdarg>
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -122,7 +124,7 @@ class FileFaults final : public QObject {
     Q_OBJECT
 
 private slots:
-    void aFaultOfAnyCallKeepsTheOldFileAndSaysWhy()
+    void anyFailingCallKeepsTheOldFileAndGivesAReason()
     {
         for (int const fault : {EIO, ENOSPC, EACCES, EINTR, EINVAL}) {
             faultNumber = fault;
@@ -131,12 +133,14 @@ private slots:
                 do {
                     calls += FailCall(static_cast<int>(calls.size()) + 1, existed);
                 } while (!calls.last().isEmpty());
-                QVERIFY(calls.contains("open64") && calls.contains("write") && calls.contains("fsync"));
+                for (char const* const call : {"open64", "write", "fsync"}) {
+                    QVERIFY2(calls.contains(QLatin1String(call)), call);
+                }
             }
         }
     }
 
-    void aLinkStaysALinkAndPermissionsStay()
+    void savingKeepsLinksAndPermissions()
     {
         QTemporaryDir const folder;
         QString const path = folder.filePath(u"scale"_s);
@@ -170,7 +174,7 @@ private slots:
         refusesGroups = false;
     }
 
-    void aNameTooLongForATemporaryAndAPipeAreRefused()
+    void savingRefusesPipesAndNamesThatAreTooLong()
     {
         QTemporaryDir const folder;
         // 255 bytes is the longest name of a file; each is saved twice, since only then a temporary is renamed
@@ -186,8 +190,25 @@ private slots:
         QCOMPARE(Save(pipe, "text\n"), "it is not a plain file"_L1);
     }
 
-    void whatIsNoScaleFileIsReportedAndChangesNothing_data() { AddRows(kNoFiles); }
-    void whatIsNoScaleFileIsReportedAndChangesNothing()
+    void browserInheritsNoFilesAndIgnoredSignalsStayIgnored()
+    {
+        auto const inherited = [] {
+            int count = 0;
+            for (int file = 0; file < 1000; ++file) {
+                int const flags = fcntl(file, F_GETFD);
+                count += flags >= 0 && (flags & FD_CLOEXEC) == 0 ? 1 : 0;
+            }
+            return count;
+        };
+        int const before = inherited();
+        QVERIFY(std::signal(SIGHUP, SIG_IGN) != SIG_ERR); // as nohup starts a program
+        HandleSignals([] {});
+        QCOMPARE(inherited(), before);
+        QVERIFY(std::signal(SIGHUP, SIG_DFL) == SIG_IGN);
+    }
+
+    void unreadableFilesAreReportedAndChangeNothing_data() { AddRows(kNoFiles); }
+    void unreadableFilesAreReportedAndChangeNothing()
     {
         QFETCH(NoFile const*, row);
         TestSession session;

@@ -4,10 +4,6 @@
 
 namespace {
 
-constexpr char const* kQuestion =
-    "Gradeloom has found problems with the grading scale which must be fixed to continue. Would you like "
-    "Gradeloom to fix them for you?";
-
 // clang-format off
 Scenario const kScores[] = {
     {"29 % is 28.999999999999996 in doubles", "total=100; missed=71 Return", {},
@@ -31,17 +27,15 @@ Scenario const kScores[] = {
     {"no points", "missed=5 Return", {{kNeedsPoints}}, "missed=5 numstudents= pointstemp= problem=1"},
     {"negative points", "total=-5; missed=0 Return", {{kNeedsPoints}}, "missed=0 numstudents="},
     {"no whole point to divide by", "total=0.4; missed=0 Return", {{kNeedsPoints}}, "missed=0 numstudents= percentage="},
-    {"500 as a test, 0.5 to divide by", "checkcorrect; total=0.5e3; correct=5 Return", {{kNeedsPoints}},
-     "missed= correct=5 numstudents="},
 
-    {"Yes has the scale repaired", "write amin=98; total=30; missed=3 Return", {{kQuestion, kYes}, {kScaleRepaired}},
+    {"Yes has the scale repaired", "write amin=98; total=30; missed=3 Return", {{kScaleUnsound, kYes}, {kScaleRepaired}},
      "amin=96 numstudents=1 missed="},
-    {"Yes without points", "write amin=98; missed=3 Return", {{kQuestion, kYes}, {kScaleRepaired}, {kNeedsPoints}},
+    {"Yes without points", "write amin=98; missed=3 Return", {{kScaleUnsound, kYes}, {kScaleRepaired}, {kNeedsPoints}},
      "amin=96 numstudents= missed=3"},
     {"equal bounds are in order", "write amin=97; total=30; missed=3 Return", {{kScaleRepaired}},
      "aminusmax=96 numstudents=1"},
     {"without points a gap stays", "write aminusmax=91; missed=3 Return", {{kNeedsPoints}}, "aminusmax=91"},
-    {"the top is compared as it was typed", "write aplusmax=97; total=30; missed=3 Return", {{kQuestion, kNo}},
+    {"the top is compared as it was typed", "write aplusmax=97; total=30; missed=3 Return", {{kScaleUnsound, kNo}},
      "aplusmax=100 numstudents="},
 };
 
@@ -105,14 +99,14 @@ class Grading final : public QObject {
     Q_OBJECT
 
 private slots:
-    void aScoreBecomesAnEntryOrIsRefused_data() { AddRows(kScores); }
-    void aScoreBecomesAnEntryOrIsRefused() { CheckScenario(); }
+    void scoresAreEnteredOrRefused_data() { AddRows(kScores); }
+    void scoresAreEnteredOrRefused() { CheckScenario(); }
 
     void entriesAreListedAndUndone_data() { AddRows(kSessions); }
     void entriesAreListedAndUndone() { CheckScenario(); }
 
-    void whatAnActWritesHasItsOrder_data() { AddRows(kOrders); }
-    void whatAnActWritesHasItsOrder()
+    void controlsAreWrittenInOrder_data() { AddRows(kOrders); }
+    void controlsAreWrittenInOrder()
     {
         QFETCH(Order const*, row);
         TestSession const session;
@@ -132,31 +126,14 @@ private slots:
         session.play(row->acts);
         QCOMPARE(writes.trimmed(), QLatin1String(row->writes));
         if (row->areEmptied) {
-            session.expectEmpty(row->writes);
+            session.expectFields(QString(row->writes).replace(u" "_s, u"= "_s) + u'=');
         }
     }
 
-    void undoAndLettersReadExponents()
+    void letterGradesCoverTheirWholeRange()
     {
         TestSession const session;
-        session.enterScores("30", {"3", "4"});
-        class mainscreen& form = session.form();
-        form.ListBox1().Cell(0, 1, "9e1");
-        for (Listbox* const list : {&form.ListBox2(), &form.ListBox3(), &form.ListBox5()}) {
-            list->Cell(0, 0, "1e1");
-        }
-        session.setFields("numstudents=2e0 bgrade=1e1");
-        session.play("EditUndo");
-        session.expectFields("percentage=90 lastmissed=10 EditField1=10 average=10 numstudents=1 bgrade=9");
-        session.setFields("percentage=8e1");
-        form.percenttest();
-        session.expectFields("lettergrade=B-");
-    }
-
-    void everyLetterHoldsFromItsMinimumToItsMaximum()
-    {
-        TestSession const session;
-        QStringList const bounds = QString(kDefaultScale).split(u' ') + QStringList{u"59"_s, u"0"_s};
+        QStringList const bounds = QString(kTestScale).split(u' ') + QStringList{u"59"_s, u"0"_s};
         QStringList const letters = u"A+ A A- B+ B B- C+ C C- D+ D D- F"_s.split(u' ');
         for (qsizetype band = 0; band < letters.size(); ++band) {
             for (double const percent :
@@ -170,29 +147,23 @@ private slots:
         }
     }
 
-    void theStampsAreSetBeforeTheQuestionAndThePointsAreRestoredAfterTheNotice()
+    void stampsAreSetBeforeTheQuestionAndPointsRestoredAfterTheNotice()
     {
-        TestSession session({{kQuestion, kNo}, {kPointsAreFixed}});
+        TestSession session({{kScaleUnsound, kNo}, {kPointsAreFixed}});
         session.setFields("amin=98 total=37.5");
         session.whileBoxIsUp = [&] { session.expectFields("problem=1 pointstemp=37.5"); };
         session.form().PushButton1_Action();
         session.whileBoxIsUp = [&] { session.expectFields("total=7"); };
-        session.play("PushButton3; missed=3 Return; focus total; key 7");
+        session.play("write amin=93; missed=3 Return; focus total; key 7");
         session.expectFields("total=37.5 numstudents=1 ListBox1=1,91.891,%");
     }
 
-    void theListShowsNumbersPercentagesAndTheLastEntry()
+    void listScrollsToItsLastRow()
     {
         TestSession const session;
         auto const* const list = session.widget<QTableView>("ListBox1");
         QCOMPARE(list->model()->columnCount(), 2);
         session.play("total=30" + u"; missed=3 Return"_s.repeated(20));
-        auto const cell = [list](int column) { return list->model()->index(19, column); };
-        QVERIFY(list->visualRect(cell(0)).width() == 20 && list->visualRect(cell(1)).width() == 65);
-        QCOMPARE(list->visualRect(cell(2)).right(), list->viewport()->rect().right());
-        QCOMPARE(list->visualRect(cell(0)).height(), 16);
-        QVERIFY((cell(1).data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight) != 0);
-        QVERIFY((cell(2).data(Qt::TextAlignmentRole).toInt() & Qt::AlignLeft) != 0);
         QScrollBar const* const bar = list->verticalScrollBar();
         QCoreApplication::processEvents(); // the list scrolls before it is painted
         QVERIFY(bar->maximum() == 20 * 16 - list->viewport()->height() && bar->value() == bar->maximum());

@@ -72,7 +72,7 @@ Scenario const kActs[] = {
      "key Shift+Right; keys 7", {}, "missed=7"},
     {"a command leaves a selection from the right", "missed=25; key Shift+Left; FileReset; key Esc; key Shift+Left; "
      "keys 7", {}, "missed=7"},
-    {"Space presses the focused button", "write amin=1; focus PushButton3; key Space", {}, "amin=93"},
+    {"Space presses the focused button", "write total=30 missed=3; focus PushButton1; key Space", {}, "numstudents=1"},
 };
 
 constexpr char const* kTwoEntries = "total=40; missed=3 Return; missed=4 Return; ";
@@ -119,7 +119,7 @@ class KeysAndFields final : public QObject {
     Q_OBJECT
 
 private slots:
-    void returnAndShortcutsPassEveryControl()
+    void returnAndShortcutsWorkInEveryControl()
     {
         TestSession const session;
         for (char const* const name :
@@ -132,8 +132,8 @@ private slots:
         }
     }
 
-    void eventsComeInTheirOrderOneForEachAct_data() { AddRows(kEvents); }
-    void eventsComeInTheirOrderOneForEachAct()
+    void eachActRaisesItsEventsInOrder_data() { AddRows(kEvents); }
+    void eachActRaisesItsEventsInOrder()
     {
         QFETCH(LoggedActs const*, row);
         std::string events;
@@ -144,7 +144,7 @@ private slots:
         QCOMPARE(events, row->events);
     }
 
-    void onlyAKeyThatDoesSomethingRaisesKeyDown()
+    void silentKeysRaiseNoKeyDown()
     {
         std::string events;
         TestSession const session;
@@ -158,7 +158,7 @@ private slots:
         QCOMPARE(events, "Help x ");
     }
 
-    void otherWindowsLeaveTheFocusWhereItIs()
+    void switchingWindowsKeepsTheFocus()
     {
         std::string events;
         TestSession const session;
@@ -174,10 +174,10 @@ private slots:
         QVERIFY(!session.field("missed")->hasSelectedText());
     }
 
-    void whatIsTypedOrPastedIsInTheField_data() { AddRows(kActs); }
-    void whatIsTypedOrPastedIsInTheField() { CheckScenario(); }
+    void typingAndPastingFollowTheFieldsRules_data() { AddRows(kActs); }
+    void typingAndPastingFollowTheFieldsRules() { CheckScenario(); }
 
-    void aFieldHoldsALongPaste()
+    void fieldsHoldLongPastes()
     {
         TestSession const session;
         QString const nines(40'000, u'9');
@@ -185,10 +185,10 @@ private slots:
         session.expectFields("total=" + nines);
     }
 
-    void theUndoKeyUndoesWhatIsMeant_data() { AddRows(kUndone); }
-    void theUndoKeyUndoesWhatIsMeant() { CheckScenario(kTwoEntries); }
+    void undoKeyUndoesTypingFirst_data() { AddRows(kUndone); }
+    void undoKeyUndoesTypingFirst() { CheckScenario(kTwoEntries); }
 
-    void aResultTooWideIsCondensedThenShowsItsStartAndHasATooltip()
+    void wideResultsAreCondensedOrShowTheirStartAndATooltip()
     {
         TestSession const session;
         QLineEdit const* const result = session.field("percentage");
