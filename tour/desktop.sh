@@ -1,4 +1,4 @@
-# shellcheck shell=bash disable=SC2034,SC2154
+# shellcheck shell=bash
 # A desktop of the tour's own: a display, a window manager, and an empty home that is deleted at the end.
 
 declare -A started=() # the numbers of the processes that run, by what they are
@@ -62,21 +62,22 @@ on_desktop() {
 
 make_home() {
     home=$(mktemp -d)
+    # shellcheck disable=SC2034 # only some of the visits read it
     preferences=$home/.config/gradeloom/Preferences
     mkdir -p "$home"/{tmp,run,.config,.cache,.local/share,.local/state}
     chmod 700 "$home/run"
     theme_settings=(XDG_CURRENT_DESKTOP=none)
-    screen=1280x1024
     case $theme in
         dark)
             theme_settings=(XDG_CURRENT_DESKTOP=KDE KDE_SESSION_VERSION=5 KDE_FULL_SESSION=true)
             cp tour/dark-colours "$home/.config/kdeglobals"
             ;;
-        small) screen=1024x600 ;;
         adwaita* | breeze) theme_settings+=(QT_STYLE_OVERRIDE="$theme") ;;
         gtk3 | gnome) theme_settings+=(QT_QPA_PLATFORMTHEME="$theme") ;;
     esac
 }
+
+screen_size() { if [[ $theme == small ]]; then echo 1024x600; else echo 1280x1024; fi; }
 
 # Whether a desktop's style is installed; that of the toolkit's own always is.
 has_style() { # THEME
@@ -107,7 +108,7 @@ start_bus() {
 # Without -noreset the server starts anew when its last client leaves, and that can be the one that only looks
 # whether the window manager is there yet.
 start_display() {
-    Xvfb -displayfd 3 -noreset -screen 0 "${screen}x24" -nolisten tcp 3>"$home/display" >build/tour/display.log 2>&1 &
+    Xvfb -displayfd 3 -noreset -screen 0 "$(screen_size)x24" -nolisten tcp 3>"$home/display" >build/tour/display.log 2>&1 &
     started[display]=$!
     await "a display" test -s "$home/display"
     DISPLAY=:$(<"$home/display")

@@ -1,4 +1,4 @@
-# shellcheck shell=bash disable=SC2034,SC2154
+# shellcheck shell=bash
 # A teacher's hands and eyes: keys, clicks, and what can be read off the windows.
 
 # The fields and buttons of the main window in the order in which Tab visits them.

@@ -1,4 +1,4 @@
-# shellcheck shell=bash disable=SC2034,SC2154
+# shellcheck shell=bash
 # What fingers, desktops and systems do otherwise than expected. Each visit makes the class that it needs, and ends
 # with the main window in front and the default scale.
 

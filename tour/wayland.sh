@@ -1,4 +1,4 @@
-# shellcheck shell=bash disable=SC2034,SC2154
+# shellcheck shell=bash
 # A Wayland desktop in place of the other, and the hands and eyes for it: what these functions do for the visits is
 # the same, so that the same visits are played.
 
@@ -26,13 +26,13 @@ start_display() {
     on_desktop "${as_nobody[@]}" env -u WAYLAND_DISPLAY XDG_RUNTIME_DIR="$sockets" WLR_BACKENDS=headless \
         WLR_LIBINPUT_NO_DEVICES=1 WLR_RENDERER=pixman LIBSEAT_BACKEND=noop sway --config /dev/null \
         >build/tour/compositor.log 2>&1 </dev/null &
-    started[display]=$!
+    started["display"]=$!
     await "a compositor" test -S "$sockets/control" -a -S "$sockets/wayland-1"
-    (sway_does output HEADLESS-1 resolution "$screen") || fail "the compositor has no screen"
+    (sway_does output HEADLESS-1 resolution "$(screen_size)") || fail "the compositor has no screen"
     on_desktop wtype -s 3600000 >build/tour/keyboard.log 2>&1 &
-    started[keyboard]=$!
+    started["keyboard"]=$!
     on_desktop tour/pointer >build/tour/mouse.log 2>&1 &
-    started[mouse]=$!
+    started["mouse"]=$!
     await "a keyboard" seat_has keyboard
     await "a mouse" seat_has pointer
 }
