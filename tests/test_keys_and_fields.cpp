@@ -72,6 +72,7 @@ Scenario const kActs[] = {
      "key Shift+Right; keys 7", {}, "missed=7"},
     {"a command leaves a selection from the right", "missed=25; key Shift+Left; FileReset; key Esc; key Shift+Left; "
      "keys 7", {}, "missed=7"},
+    {"a key with Meta types nothing", "focus missed; key Meta+X; keys 7", {}, "missed=7"},
     {"Space presses the focused button", "write total=30 missed=3; focus PushButton1; key Space", {}, "numstudents=1"},
 };
 
