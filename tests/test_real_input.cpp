@@ -62,8 +62,6 @@ QString PressInContextMenu(Qt::Key key, QWidget* field)
         }
     }
     QTest::keyClick(menu, key);
-    field->activateWindow();
-    static_cast<void>(QTest::qWaitForWindowActive(field->window()));
     return texts.join(u", "_s);
 }
 
@@ -84,10 +82,6 @@ private slots:
             ClickAt(session.widget("PushButton1"), start + time);
         }
         session.expectFields("numstudents=2"); // one more when the interval is over
-        for (quint64 click = 1; click <= 10; ++click) {
-            ClickAt(session.widget("PushButton1"), 2 * start + click * interval * 33 / 40);
-        }
-        session.expectFields("numstudents=7"); // every second one
         ClickAt(session.widget("checkcorrect"), 50'000);
         ClickAt(session.widget("checkcorrect"), 50'100);
         QVERIFY(!session.form().checkcorrect().Value());
@@ -177,12 +171,9 @@ private slots:
         auto const at = [list](int row) {
             return list->visualRect(list->model()->index(row - 1, 1)).center();
         };
-        for (auto const& [row, modifier, rows] :
-             {std::tuple(6, Qt::ShiftModifier, "4 5 6"), {6, Qt::ControlModifier, "4 6"}}) {
-            QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, at(row));
-            QTest::mouseClick(list->viewport(), Qt::LeftButton, modifier, at(4));
-            expectCopied(QLatin1String(rows));
-        }
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, at(6));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, at(4));
+        expectCopied(u"4 6"_s);
     }
 
     void keysSpeakWholeRows()
@@ -226,9 +217,6 @@ private slots:
         int end = 0;
         text->attributes(0, &start, &end);
         QCOMPARE(text->text(start, end), "1234"_L1);
-        text->setSelection(0, 1, 3);
-        text->selection(0, &start, &end);
-        QCOMPARE(text->text(start, end), "23"_L1);
         // In the toolkit's own interface this never returns.
         QCOMPARE(text->textAtOffset(4, QAccessible::WordBoundary, &start, &end), "1234"_L1);
         // The title of the group box is no name.
