@@ -138,7 +138,7 @@ private slots:
         QVERIFY(AnswerTo(true, [](QMessageBox& box, QTimer const& /*quiet*/) { box.close(); }) == kNo);
     }
 
-    void assistiveProgramsAreAnsweredAtOnceAndActBehindNoBox()
+    void assistiveProgramsActBehindNoBox()
     {
         for (char const* const opens :
              {"Open Grading Scale...", "A minimum", "Print...", "Export Results...", "nothing"}) {
@@ -169,7 +169,7 @@ private slots:
             QEvent unhandled(QEvent::Shortcut); // is over then, and no longer counts as an act of the user
             QVERIFY(!QCoreApplication::sendEvent(this, &unhandled));
             Ask(all, QLatin1String(opens));
-            QVERIFY(found.isEmpty());
+            QVERIFY(found.isEmpty());                         // the answer came at once
             Ask(all, QLatin1String(isBox ? "Grade" : opens)); // which would act behind the box
             QTRY_COMPARE(found, isBox ? "2| 2| 2| 2| 2| "_L1 : "2|7 2|7 3|6 2|6 2|6 "_L1);
             QTRY_COMPARE(session.window() != nullptr, isBox);
@@ -211,7 +211,6 @@ private slots:
         });
         closer.start(5);
         session.play("key Tab; keys 94"); // the notice comes at the first key
-        QVERIFY(QTest::qWaitForWindowActive(session.window()));
         QTRY_COMPARE(boxes, 1);
         session.activate();
         session.expectFields("aplusmin=95 amax=94 amin=94");

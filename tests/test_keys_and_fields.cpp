@@ -18,7 +18,7 @@ struct LoggedActs {
      "write missed=5", "focus text=312312 "},
     {"a button leaves the focus where it is", "focus missed; PushButton3; checkcorrect; missed", "focus "},
     {"a drop moves the focus first", "drop missed \r\n3\n4", "focus text=3 4 "},
-    {"AltGr types", "focus missed; key Ctrl+Alt+7", "focus 7 text=7 "},
+    {"AltGr types and Meta does not", "focus missed; key Meta+X; key Ctrl+Alt+7", "focus 7 text=7 "},
     {"a text is a key once it is committed", "focus missed; compose 9; commit x; commit 7", "focus x 7 text=7 "},
     {"an assistive program's text is a key", "edit missed x; edit missed 7", "focus x 7 text=7 "},
     {"a list without rows takes focus and keys", "focus missed; ListBox1; key Down; key End; missed", "focus focus "},
@@ -33,7 +33,6 @@ constexpr Qt::Key kSilentKeys[] = {
 Scenario const kActs[] = {
     {"Tab starts at the points, goes round and selects all", "keys 3; key Tab; keys 4; focus PushButton4; "
      "key Tab; key 5", {}, "total=5 missed=4"},
-    {"typing replaces what is written into the focused field", "focus total; write total=12; keys 3", {}, "total=3"},
     {"typing replaces the number correct that was written", "total=40; focus correct; keys 38; key Return; checkcorrect; "
      "keys 38; key Return", {}, "percentage=95 numstudents=2"},
     {"a click into a field selects what was written there", "total=40; missed=4 Return; checkcorrect; correct; keys 38; "
@@ -47,15 +46,15 @@ Scenario const kActs[] = {
     {"the limit holds for an input method", "focus amax; commit 4567; commit 8", {}, "amax=456"},
     {"the limit holds for a drop", "amax=456; drop amax 7", {}, "amax=456"},
     {"the limit holds for an assistive program", "edit amax 123456", {}, "amax=123"},
-    {"the limit holds for a paste, and what is selected makes room", "amax=123; key Home; key Right; key Shift+Right; paste 789", {}, "amax=173"},
+    {"a selection makes room for a paste", "amax=123; key Home; key Right; key Shift+Right; paste 789", {}, "amax=173"},
     {"a character of two units is not split", "focus amax; paste 12\U0001F642", {}, "amax=12"},
     {"a character of two units fits", "focus amax; paste 1\U0001F642", {}, "amax=1\U0001F642"},
     {"the limit is not the program's", "write amax=92.54; focus amax; key End; key Backspace", {}, "amax=92.5"},
     {"Cut and Paste move a text", "focus amin; EditCut; focus bmin; EditPaste", {}, "amin= bmin=93"},
-    {"Copy copies, Clear deletes, Shift+Insert pastes", "focus bmin; EditCopy; EditClear; focus total; key Shift+Ins", {},
+    {"Copy, Clear and Shift+Insert", "focus bmin; EditCopy; EditClear; focus total; key Shift+Ins", {},
      "bmin= total=83"},
     {"Clear needs a selection", "focus bmin; key Home; EditClear", {}, "bmin=83"},
-    {"a result takes no drop, cut, key or paste", "write percentage=90; drop percentage 5; focus percentage; key Ctrl+X; "
+    {"a result takes no drop, key or paste", "write percentage=90; drop percentage 5; focus percentage; key Ctrl+X; "
      "key Del; key 5; paste 6; key Ctrl+V", {}, "percentage=90"},
     {"what the user may not change is restored", "total=40; missed=4 Return; edit percentage 77; edit average 77; "
      "edit problem 77", {}, "percentage=90 average=90 problem=1"},
@@ -64,8 +63,6 @@ Scenario const kActs[] = {
      "key Shift+Right; keys 7", {}, "missed=7"},
     {"a command leaves a selection from the right", "missed=25; key Shift+Left; FileReset; key Esc; key Shift+Left; "
      "keys 7", {}, "missed=7"},
-    {"a key with Meta types nothing", "focus missed; key Meta+X; keys 7", {}, "missed=7"},
-    {"Space presses the focused button", "write total=30 missed=3; focus PushButton1; key Space", {}, "numstudents=1"},
 };
 
 constexpr char const* kTwoEntries = "total=40; missed=3 Return; missed=4 Return; ";
