@@ -71,12 +71,7 @@ struct OpenKeys {
     {"an arrow, then Space too", true, {Qt::Key_Left, Qt::Key_Space}, kYes},
     {"plain letters answer nothing", true, {Qt::Key_Y, Qt::Key_N, Qt::Key_5}, std::nullopt},
     {"Return closes a notice", false, {Qt::Key_Return}, kNo}, {"Escape closes a notice", false, {Qt::Key_Escape}, kNo},
-    {"O closes no notice", false, {Qt::Key_O}, std::nullopt},
-};
-
-QKeyCombination const kTyped[] = {
-    Qt::Key_Return, Qt::Key_Escape, Qt::AltModifier | Qt::Key_Y, Qt::Key_9, Qt::Key_Tab, Qt::Key_Space, Qt::Key_Left,
-    Qt::Key_Shift,
+    {"Shift and O close no notice", false, {Qt::Key_Shift, Qt::Key_O}, std::nullopt},
 };
 // clang-format on
 
@@ -99,6 +94,16 @@ private slots:
     {
         QFETCH(OpenKeys const*, row);
         auto const answer = AnswerTo(row->isQuestion, [row](QMessageBox const& box, QTimer& quiet) {
+            QCOMPARE(quiet.interval(), 500);
+            quiet.setInterval(60'000);
+            for (QKeyCombination const key : row->keys) {
+                QTest::qWait(50);
+                int const before = quiet.remainingTime();
+                QWidget const* const focused = QApplication::focusWidget();
+                Press(key);
+                QVERIFY2(quiet.remainingTime() > before && QApplication::focusWidget() == focused,
+                         qPrintable(QKeySequence(key).toString()));
+            }
             quiet.stop();
             std::ranges::for_each(row->keys, Press);
             bool const isByAlt = row->keys.back().keyboardModifiers() != Qt::NoModifier;
@@ -106,22 +111,6 @@ private slots:
                               QTest::qWaitFor([&box] { return box.isHidden(); })); // it shows a while
         });
         QVERIFY(answer == row->answer);
-    }
-
-    void strayKeysAnswerNothingAndRestartTheWait()
-    {
-        auto const answer = AnswerTo(true, [](QMessageBox const& box, QTimer& quiet) {
-            QCOMPARE(quiet.interval(), 500);
-            quiet.setInterval(60'000);
-            for (QKeyCombination const key : kTyped) {
-                QTest::qWait(200);
-                int const before = quiet.remainingTime();
-                Press(key);
-                QVERIFY2(quiet.remainingTime() > before, qPrintable(QKeySequence(key).toString()));
-                QCOMPARE(QApplication::focusWidget(), box.defaultButton());
-            }
-        });
-        QVERIFY(answer == std::nullopt);
     }
 
     void keysAreTimedByTheirStampsAndHeldKeysAnswerNothing()
@@ -149,7 +138,7 @@ private slots:
         QVERIFY(AnswerTo(true, [](QMessageBox& box, QTimer const& /*quiet*/) { box.close(); }) == kNo);
     }
 
-    void anAssistiveProgramIsAnsweredAtOnceAndCanDoNothingBehindABox()
+    void assistiveProgramsActBehindNoBox()
     {
         for (char const* const opens :
              {"Open Grading Scale...", "A minimum", "Print...", "Export Results...", "nothing"}) {
@@ -180,7 +169,7 @@ private slots:
             QEvent unhandled(QEvent::Shortcut); // is over then, and no longer counts as an act of the user
             QVERIFY(!QCoreApplication::sendEvent(this, &unhandled));
             Ask(all, QLatin1String(opens));
-            QVERIFY(found.isEmpty());
+            QVERIFY(found.isEmpty());                         // the answer came at once
             Ask(all, QLatin1String(isBox ? "Grade" : opens)); // which would act behind the box
             QTRY_COMPARE(found, isBox ? "2| 2| 2| 2| 2| "_L1 : "2|7 2|7 3|6 2|6 2|6 "_L1);
             QTRY_COMPARE(session.window() != nullptr, isBox);
@@ -189,7 +178,7 @@ private slots:
         }
     }
 
-    void aWindowThatClosesBehindABoxOutlivesItsHandler()
+    void closedWindowsOutliveTheirHandlers()
     {
         TestSession session({{kNeedsPoints}});
         session.play("filepresent");
@@ -222,7 +211,6 @@ private slots:
         });
         closer.start(5);
         session.play("key Tab; keys 94"); // the notice comes at the first key
-        QVERIFY(QTest::qWaitForWindowActive(session.window()));
         QTRY_COMPARE(boxes, 1);
         session.activate();
         session.expectFields("aplusmin=95 amax=94 amin=94");

@@ -10,18 +10,6 @@
 
 namespace {
 
-/// What a screen reader says; it asks for it a moment after it appears. Unused with later toolkits.
-[[maybe_unused]] QString SpokenIn(QWidget const& window)
-{
-    for (QObject* const child : window.children()) {
-        QAccessibleInterface const* const spoken = QAccessible::queryAccessibleInterface(child);
-        if (spoken != nullptr && spoken->role() == QAccessible::Notification) {
-            return spoken->parent()->object() == &window ? spoken->text(QAccessible::Name) : QString();
-        }
-    }
-    return {};
-}
-
 /// Posts a copy of each key without its time stamp, as the toolkit does while an assistive program listens for keys.
 class KeyListener final : public QObject {
     bool eventFilter(QObject* receiver, QEvent* event) override
@@ -61,34 +49,20 @@ void ClickAt(QWidget* widget, quint64 time)
     }
 }
 
-void OpenContextMenu(QWidget* field)
+/// Presses a key in a field's context menu, and returns what could be chosen there.
+QString PressInContextMenu(Qt::Key key, QWidget* field)
 {
     QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(5, 5), field->mapToGlobal(QPoint(5, 5)));
     QCoreApplication::sendEvent(field, &event);
-}
-
-/// What can be chosen in a field's context menu.
-QString ContextMenuOf(QWidget* field)
-{
-    OpenContextMenu(field);
+    QWidget* const menu = QApplication::activePopupWidget();
     QStringList texts;
-    for (QAction const* const item : QApplication::activePopupWidget()->actions()) {
+    for (QAction const* const item : menu->actions()) {
         if (item->isEnabled() && !item->isSeparator()) {
             texts += QString(item->text()).remove(u'&');
         }
     }
-    QApplication::activePopupWidget()->close();
-    field->activateWindow();
-    static_cast<void>(QTest::qWaitForWindowActive(field->window()));
+    QTest::keyClick(menu, key);
     return texts.join(u", "_s);
-}
-
-/// Chooses an item of a field's context menu by its underlined letter.
-void ChooseInContextMenu(QWidget* field, Qt::Key letter)
-{
-    OpenContextMenu(field);
-    QTest::keyClick(QApplication::activePopupWidget(), letter);
-    QVERIFY(QApplication::activePopupWidget() == nullptr || QApplication::activePopupWidget()->close());
 }
 
 } // namespace
@@ -98,36 +72,15 @@ class RealInput final : public QObject {
     Q_OBJECT
 
 private slots:
-    void altKeysTypeNothingAndOpenMenus()
-    {
-        TestSession const session;
-        QLineEdit* const field = session.enterField("missed");
-        auto const openedBy = [&](Qt::Key key, Qt::KeyboardModifiers modifiers) {
-            QTest::keyClick(field, key, modifiers);
-            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-            return menu != nullptr && menu->close() ? menu->menuAction()->text() : QString();
-        };
-        QCOMPARE(openedBy(Qt::Key_F, Qt::AltModifier), "File"_L1);
-        QCOMPARE(openedBy(Qt::Key_E, Qt::AltModifier), "Edit"_L1);
-        QCOMPARE(openedBy(Qt::Key_F10, Qt::NoModifier), "File"_L1);
-        session.play("key Meta+X; key 7");
-        session.expectFields("missed=7");
-    }
-
     void doubleClicksPressButtonsOnceAndToggleTwice()
     {
         TestSession const session;
         session.type("total", "30");
         auto const interval = static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
-        quint64 const start = 10'000;
         for (quint64 const time : {quint64{0}, interval / 2, interval - 1, interval, 2 * interval - 1}) {
-            ClickAt(session.widget("PushButton1"), start + time);
+            ClickAt(session.widget("PushButton1"), 10'000 + time);
         }
         session.expectFields("numstudents=2"); // one more when the interval is over
-        for (quint64 click = 1; click <= 10; ++click) {
-            ClickAt(session.widget("PushButton1"), 2 * start + click * interval * 33 / 40);
-        }
-        session.expectFields("numstudents=7"); // every second one
         ClickAt(session.widget("checkcorrect"), 50'000);
         ClickAt(session.widget("checkcorrect"), 50'100);
         QVERIFY(!session.form().checkcorrect().Value());
@@ -149,14 +102,15 @@ private slots:
         }
     }
 
-    void aMenuThatIsLeftGivesTheKeysBack()
+    void menusThatAreLeftGiveTheKeysBack()
     {
         TestSession const session;
         session.play("total=40");
         QWindow* const window = session.window()->windowHandle();
+        QString opened;
         int entries = 0;
         for (char const* const way :
-             {"Alt+E Esc", "F10 Right Esc", "F10 F10", "Alt", "9 Esc", "9 9", "9 300"}) {
+             {"Alt+E Esc", "Alt+F Esc", "F10 Right Esc", "F10 F10", "Alt", "9 Esc", "9 9", "9 300"}) {
             session.play("write missed=9; focus total; focus missed"); // which selects it
             for (QString const& act : (QLatin1String(way) + u" 3 Return"_s).split(u' ')) {
                 QPoint const place(act.toInt(), act.toInt()); // of a click: 9 is on a menu's title
@@ -164,9 +118,12 @@ private slots:
                 QTest::qSleep(2); // milliseconds: the repeats of a held key have none between
                 place.x() > 3 ? QTest::mouseClick(window, Qt::LeftButton, {}, place)
                               : QTest::keyClick(window, key.key(), key.keyboardModifiers());
+                auto const* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+                opened += menu != nullptr ? menu->menuAction()->text() + u' ' : QString();
             }
             session.expectFields(u"numstudents=%1 lastmissed=3"_s.arg(++entries));
         }
+        QCOMPARE(opened, "Edit File File Edit File File File File "_L1);
     }
 
     void contextMenuFollowsTheFieldsRules()
@@ -174,16 +131,17 @@ private slots:
         TestSession const session;
         QGuiApplication::clipboard()->clear();
         session.setFields("percentage=90");
-        QCOMPARE(ContextMenuOf(session.enterField("percentage")), "Copy, Select All"_L1);
-        QCOMPARE(ContextMenuOf(session.enterField("missed")), QString());
+        QCOMPARE(PressInContextMenu(Qt::Key_Escape, session.enterField("percentage")), "Copy, Select All"_L1);
+        QCOMPARE(PressInContextMenu(Qt::Key_Escape, session.enterField("missed")), QString());
         session.play("keys 5; key Shift+Left; key Ctrl+C");
-        QCOMPARE(ContextMenuOf(session.field("missed")), "Undo, Cut, Copy, Paste, Clear, Select All"_L1);
+        QCOMPARE(PressInContextMenu(Qt::Key_Escape, session.field("missed")),
+                 "Undo, Cut, Copy, Paste, Clear, Select All"_L1);
         QLineEdit* const amax = session.enterField("amax");
         QGuiApplication::clipboard()->setText(u"\n1\n2345\n"_s);
-        ChooseInContextMenu(amax, Qt::Key_P);
+        PressInContextMenu(Qt::Key_P, amax);
         session.expectFields("amax=1 2");
         amax->selectAll();
-        ChooseInContextMenu(amax, Qt::Key_T);
+        PressInContextMenu(Qt::Key_T, amax);
         QTRY_VERIFY(amax->findChild<QMenu*>() == nullptr); // each is deleted when it closes
         session.expectFields("amax=");
         QCOMPARE(QGuiApplication::clipboard()->text(), "1 2"_L1);
@@ -212,15 +170,12 @@ private slots:
         auto const at = [list](int row) {
             return list->visualRect(list->model()->index(row - 1, 1)).center();
         };
-        for (auto const& [row, modifier, rows] :
-             {std::tuple(6, Qt::ShiftModifier, "4 5 6"), {6, Qt::ControlModifier, "4 6"}}) {
-            QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, at(row));
-            QTest::mouseClick(list->viewport(), Qt::LeftButton, modifier, at(4));
-            expectCopied(QLatin1String(rows));
-        }
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, at(6));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, at(4));
+        expectCopied(u"4 6"_s);
     }
 
-    void eachRowThatAKeyLeadsToIsSpokenWhole()
+    void keysSpeakWholeRows()
     {
         TestSession const session;
         session.enterScores("30", {"3", "6", "9"});
@@ -248,23 +203,7 @@ private slots:
         }
     }
 
-    void screenReadersHearGradesAndUndo()
-    {
-        TestSession const session;
-#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0) // later ones leave nothing behind that a test could ask
-        for (auto const& [acts, words] : std::initializer_list<std::pair<QString, QString>>{
-                 {u"total=30; missed=3 Return"_s, u"90 percent, A-"_s},
-                 {u"missed=4 Return"_s, u"86.66667 percent, B"_s},
-                 {u"missed=5 Return; EditUndo"_s, u"2 students"_s},
-                 {u"EditUndo"_s, u"1 student"_s},
-                 {u"EditUndo"_s, u"no students"_s}}) {
-            session.play(acts);
-            QCOMPARE(SpokenIn(*session.window()), words);
-        }
-#endif
-    }
-
-    void assistiveProgramsReadAFieldByItsNameAndToItsLastDigit()
+    void assistiveProgramsReadWholeFields()
     {
         TestSession const session;
         session.play("write amin=1234");
@@ -277,16 +216,14 @@ private slots:
         int end = 0;
         text->attributes(0, &start, &end);
         QCOMPARE(text->text(start, end), "1234"_L1);
-        text->setSelection(0, 1, 3);
-        text->selection(0, &start, &end);
-        QCOMPARE(text->text(start, end), "23"_L1);
-        QCOMPARE(text->textAtOffset(4, QAccessible::WordBoundary, &start, &end),
-                 "1234"_L1);                             // and returns at all
-        QWidget* const tally = session.widget("agrade"); // the title of its group box is no name
+        // In the toolkit's own interface this never returns.
+        QCOMPARE(text->textAtOffset(4, QAccessible::WordBoundary, &start, &end), "1234"_L1);
+        // The title of the group box is no name.
+        QWidget* const tally = session.widget("agrade");
         QVERIFY(QAccessible::queryAccessibleInterface(tally)->relations(QAccessible::Label).isEmpty());
     }
 
-    void aDragSelectsWhatItCovers()
+    void dragsSelectWhatTheyCover()
     {
         TestSession const session;
         session.setFields("amin=123456");
