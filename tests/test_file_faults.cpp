@@ -111,7 +111,6 @@ struct NoFile {
     {"pipe", [](QString const& path) { mkfifo(QFile::encodeName(path), 0600); }, "it is not a plain file."},
     {"300 MB", [](QString const& path) { WriteFile(path, ""), QFile::resize(path, 300'000'000); },
      "it holds a line that is too long."},
-    {"a fault at the opening", [](QString const& path) { WriteFile(path, "1"), callsUntilFault = 1; }},
     {"a fault of a read", [](QString const& path) { WriteFile(path, "1"), callsUntilFault = 2; }},
 };
 

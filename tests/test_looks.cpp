@@ -186,8 +186,6 @@ private slots:
         QApplication::setFont(usual);
     }
 
-    void cleanupTestCase() { UseStyle(u"Fusion"_s, kThemes[0]); }
-
     void textIsLegibleAndFocusIsVisible_data() { AddRows(kThemes); }
     void textIsLegibleAndFocusIsVisible()
     {
