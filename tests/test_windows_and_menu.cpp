@@ -116,7 +116,7 @@ private slots:
         QTRY_COMPARE(QApplication::activeWindow(), window); // the same one
     }
 
-    void commandsWithoutTheirDataGiveANotice()
+    void commandsRefuseWithANotice()
     {
         TestSession session({{"There is currently no data to send to the printer."},
                              {"There is currently no data to export to disk."},
