@@ -96,6 +96,22 @@ bool ShowsFocus(QWidget& control)
     return Difference(focused, PictureOf(control), 3).size() >= control.width() + control.height();
 }
 
+/// Checks what a window with this content shows.
+void CheckControls(QWidget const& content, QString const& style)
+{
+    bool const hasOwnColors = content.window()->objectName() != "Author"_L1; // that has the desktop's
+    bool hasStops = false;
+    for (QWidget* const control : content.findChildren<QWidget*>()) {
+        QString const name = style + u' ' + control->objectName();
+        bool const isShown = control->isVisible() && control->isEnabled();
+        bool const isStop = isShown && (control->focusPolicy() & Qt::TabFocus) != 0;
+        QVERIFY2(!isShown || !hasOwnColors || IsLegible(*control), qPrintable(name));
+        QVERIFY2(!isStop || ShowsFocus(*control), qPrintable(name));
+        hasStops = hasStops || isStop;
+    }
+    QVERIFY(hasStops);
+}
+
 void UseStyle(QString const& style, Theme const& theme)
 {
     QPalette palette(theme.window, theme.window);
@@ -153,25 +169,6 @@ private slots:
         }
     }
 
-    void boldCaptionsFitInWideFonts()
-    {
-        QFont const usual = QApplication::font();
-        QFont wide = usual;
-        wide.setStretch(125);
-        QApplication::setFont(wide);
-        TestSession const session;
-        for (char const* const name : {"PushButton4", "PushButton1"}) {
-            QWidget const* const button = session.widget(name);
-            QString const caption = button->property("text").toString();
-            QVERIFY2(button->font().bold() &&
-                         button->fontMetrics().horizontalAdvance(caption) < button->width() - 8,
-                     name);
-        }
-        QVERIFY(session.widget("PushButton2")->font().stretch() !=
-                session.widget("PushButton4")->font().stretch());
-        QApplication::setFont(usual);
-    }
-
     void captionsOfTheDesktopsSizeFitUpToTwentyPoints()
     {
         QFont const usual = QApplication::font();
@@ -189,44 +186,24 @@ private slots:
         QApplication::setFont(usual);
     }
 
-    void cleanupTestCase() { UseStyle(u"Fusion"_s, kThemes[0]); }
-
-    void textIsLegibleAndFocusIsVisible_data()
-    {
-        QTest::addColumn<QString>("style");
-        QTest::addColumn<Theme const*>("theme");
-        for (QString const& style : QStyleFactory::keys()) {
-            for (Theme const& theme : kThemes) {
-                QTest::newRow(qPrintable(style + u", "_s + QLatin1String(theme.name))) << style << &theme;
-            }
-        }
-    }
+    void textIsLegibleAndFocusIsVisible_data() { AddRows(kThemes); }
     void textIsLegibleAndFocusIsVisible()
     {
-        QFETCH(QString, style);
-        QFETCH(Theme const*, theme);
-        UseStyle(style, *theme);
-        TestSession const session;
-        session.enterScores("40", {"4", "8"});
-        auto const check = [&session](char const* name) {
-            session.activate(name);
-            bool hasStops = false;
-            for (QWidget* const control :
-                 session.widget("StaticText1", name)->parent()->findChildren<QWidget*>()) {
-                bool const isShown = control->isVisible() && control->isEnabled();
-                bool const isStop = isShown && (control->focusPolicy() & Qt::TabFocus) != 0;
-                bool const hasOwnColors = name != "Author"_L1; // that has the desktop's
-                QVERIFY2(!isShown || !hasOwnColors || IsLegible(*control), qPrintable(control->objectName()));
-                QVERIFY2(!isStop || ShowsFocus(*control), qPrintable(control->objectName()));
-                hasStops = hasStops || isStop;
+        QFETCH(Theme const*, row);
+        for (QString const& style : QStyleFactory::keys()) {
+            UseStyle(style, *row);
+            TestSession const session;
+            session.enterScores("40", {"4", "8"});
+            for (char const* const name : {"mainscreen", "Window1", "Author"}) {
+                if (name == "Window1"_L1) {
+                    ::Window1(); // not earlier, since Windows may bring a new window to the front late
+                } else if (name == "Author"_L1) {
+                    ::Author();
+                }
+                session.activate(name);
+                CheckControls(*session.widget("StaticText1", name)->parentWidget(), style);
             }
-            QVERIFY2(hasStops, name);
-        };
-        check("mainscreen");
-        ::Window1(); // not earlier, since Windows may bring a new window to the front late
-        check("Window1");
-        ::Author();
-        check("Author");
+        }
     }
 };
 

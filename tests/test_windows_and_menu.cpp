@@ -9,14 +9,11 @@
 #include "tests/harness.h"
 
 #include <QDesktopServices>
-#include <QDir>
 #include <QMenu>
 #include <QPrinter>
 #include <QTimer>
 
 #include <csignal>
-#include <iostream>
-#include <sstream>
 #include <stdexcept>
 
 namespace {
@@ -26,9 +23,9 @@ struct Chart {
     char const* name;  // the points as they are typed
     char const* chart; // the rows of its three lists and the last of them
 } const kCharts[] = {
-    {"", "1 0 0 0,NaN"},        {"words", "1 0 0 0,NaN"},   {"-0.5", "1 0 0 0,NaN"},   {"-3", "0 0 0 "},
-    {"1", "2 0 0 -1,0"},        {"1e2", "2 0 0 -1,0"},      {"12.9", "13 0 0 -12,0"},  {"35", "36 0 0 -35,0"},
-    {"36", "36 1 0 -36,0"},     {"70", "36 35 0 -70,0"},    {"71", "36 35 1 -71,0"},   {"105.9", "36 35 35 -105,0"},
+    {"-0.5", "1 0 0 0,NaN"},  {"-3", "0 0 0 "},         {"1e2", "2 0 0 -1,0"},
+    {"35.9", "36 0 0 -35,0"}, {"36", "36 1 0 -36,0"},   {"70", "36 35 0 -70,0"},
+    {"71", "36 35 1 -71,0"},  {"105.9", "36 35 35 -105,0"},
 };
 
 struct Commands {
@@ -82,11 +79,9 @@ private slots:
         TestSession const session;
         ::Window1();
         ::Author();
+        QString const all = u"About FileReset EditUndo FilePrint FileExport FileOpen filepresent"_s;
         for (auto const& [window, commands] :
-             {std::pair("mainscreen",
-                        u"About FileReset EditUndo FilePrint FileExport FileOpen filepresent"_s),
-              {"Window1", u"FileClose"_s},
-              {"Author", u"FileClose"_s}}) {
+             {std::pair("mainscreen", all), {"Window1", u"FileClose"_s}, {"Author", u"FileClose"_s}}) {
             session.activate(window);
             for (QString const& command : commands.split(u' ')) {
                 MenuItem& item = session.form().MenuBar().Item(command.toStdString());
@@ -99,7 +94,7 @@ private slots:
         }
     }
 
-    void aboutOpensThePageOnMouseDown()
+    void aboutIsOneWindowAndOpensThePageOnMouseDown()
     {
         TestSession session;
         session.play("About; key Return; key Space");
@@ -115,43 +110,20 @@ private slots:
         QTest::mouseDClick(button, Qt::LeftButton);
         QDesktopServices::unsetUrlHandler(u"https"_s);
         QCOMPARE(openedPage_, QUrl(QStringLiteral(WEB_PAGE)));
-    }
-
-    void aboutOpensOnlyOneWindow()
-    {
-        TestSession const session;
-        session.play("About");
         QPointer<QMainWindow> const window = session.window("Author");
         session.activate();
         session.play("About");
-        QTRY_COMPARE(QApplication::activeWindow(), window);
-        session.play("FileClose");
-        QVERIFY(session.window("Author") == nullptr);
+        QTRY_COMPARE(QApplication::activeWindow(), window); // the same one
     }
 
-    void commandHandlersReturnFalse()
+    void commandsRefuseWithANotice()
     {
         TestSession session({{"There is currently no data to send to the printer."},
-                             {"There is currently no data to export to disk."}});
-        class mainscreen& form = session.form();
-        QVERIFY(!form._FilePrint_Action());
-        QVERIFY(!form._FileExport_Action());
-        QCOMPARE(session.dialogs.size(), std::size_t(0));
-        QVERIFY(!form._FileOpen_Action());
-        session.enterScores("30", {"3", "3"});
-        session.expectBox("In order to change the current grading scale, you must first reset the data that "
-                          "has already been entered.");
-        QVERIFY(!form._FileOpen_Action() && session.dialogs.size() == 1);
-        session.fileToChoose = session.pathOf("results"); // which both replace
-        QVERIFY(!form._FilePrint_Action());
-        QVERIFY(!form._FileExport_Action());
-        QVERIFY(!form._EditUndo_Action());
-        QVERIFY(!form._FileReset_Action());
-        QVERIFY(!form._filepresent_Action());
-        QVERIFY(!form._About_Action());
-        QVERIFY(!form._FileClose_Action());
-        QVERIFY(!::Window1()._FileClose_Action());
-        QVERIFY(!::Author()._FileClose_Action());
+                             {"There is currently no data to export to disk."},
+                             {"In order to change the current grading scale, you must first reset the data "
+                              "that has already been entered."}});
+        session.play("FilePrint; FileExport; total=30; missed=3 Return; FileOpen");
+        QVERIFY(session.dialogs.empty());
     }
 
     void chartSplitsIntoThreePairs_data() { AddRows(kCharts); }
@@ -267,20 +239,6 @@ private slots:
             session.play("FileClose");
         });
         QCOMPARE(RuntimeExit(), 0);
-    }
-
-    void exceptionAtStartupExitsWithStatusOne()
-    {
-        QVERIFY(QDir().mkpath(QFileInfo(PreferencesPath()).path()));
-        WriteFile(PreferencesPath(), "words\n"); // which the start reports
-        PlatformDoors().messageBox = [](auto const&) -> int { throw std::runtime_error("no box"); };
-        std::ostringstream errors;
-        std::streambuf* const before = std::cerr.rdbuf(errors.rdbuf());
-        _Main();
-        std::cerr.rdbuf(before);
-        QFile::remove(PreferencesPath());
-        QCOMPARE(RuntimeExit(), 1);
-        QCOMPARE(errors.str(), std::string("gradeloom: no box\n"));
     }
 
 public slots:
