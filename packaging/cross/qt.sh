@@ -1,11 +1,9 @@
 # shellcheck shell=bash disable=SC2034
 # Qt for Windows as static libraries, from Debian's own source package in the version that is installed here: its
-# moc, rcc and uic are the ones that serve the cross build. The result is kept in build/windows/qt.
+# moc, rcc and uic are the ones that serve the cross build. The result is kept in the user's cache folder, for all
+# clones; build/windows/qt is a link to it.
 
 qt_packages=(build-essential cmake ninja-build qt6-base-dev g++-mingw-w64-x86-64-posix dpkg-dev)
-qt_folder=build/windows/qt
-qt_sources=build/windows/qt-sources
-qt_work=build/windows/qt-work
 
 # What the program uses: Core, Gui, Widgets, PrintSupport and, for the tests, Test. Zlib, FreeType, HarfBuzz, PCRE2
 # and PNG come from Qt's own copies. Debian's package lacks the header that tablets need.
@@ -21,6 +19,9 @@ qt_options=(
 
 qt_version() { dpkg-query -W -f='${source:Version}' qt6-base-dev; }
 
+# Where the Qt that fits this machine is, with its sources and, while it is built, its work.
+qt_home() { echo "${XDG_CACHE_HOME:-$HOME/.cache}/gradeloom-build/qt-windows-$(qt_version)"; }
+
 # What a finished Qt was built from; a change of any of it builds Qt anew.
 qt_recipe() {
     printf '%s\n' "$(qt_version)"
@@ -28,6 +29,8 @@ qt_recipe() {
     printf '%s\n' "${qt_options[@]}"
     cat packaging/cross/toolchain.cmake
 }
+
+qt_is_there() { qt_recipe | cmp -s - "$(qt_home)/qt/recipe"; }
 
 # apt-get with source packages switched on, by a copy of the machine's own list of package sources in a private
 # folder: the machine's lists stay as they are.
@@ -48,48 +51,54 @@ copy_package_sources() {
 }
 
 # Debian's source package of that version, as it is: it is also what has to be handed on with the program.
-fetch_qt() { # VERSION
-    local apt_folder=$PWD/$qt_work/apt
-    say "fetching the sources of Qt, version $1"
+fetch_qt() { # FOLDER
+    local apt_folder=$1/work/apt version
+    version=$(qt_version)
+    say "fetching the sources of Qt, version $version"
     copy_package_sources
     apt_for_sources update
-    rm -rf "$qt_sources" "$qt_work/sources"
-    mkdir -p "$qt_sources"
-    (cd "$qt_sources" && apt_for_sources --download-only source "qt6-base=$1")
-    printf '%s\n' "$1" >"$qt_sources/version"
+    rm -rf "$1/sources" "$1/work/sources"
+    mkdir -p "$1/sources"
+    (cd "$1/sources" && apt_for_sources --download-only source "qt6-base=$version")
+    : >"$1/sources/complete"
 }
 
-unpack_qt() {
-    [[ ! -d $qt_work/sources ]] || return 0
-    mkdir -p "$qt_work"
-    rm -rf "$qt_work/half"
-    dpkg-source --no-check -q --extract "$qt_sources"/*.dsc "$qt_work/half" >/dev/null
-    mv "$qt_work/half" "$qt_work/sources"
+unpack_qt() { # FOLDER
+    [[ ! -d $1/work/sources ]] || return 0
+    mkdir -p "$1/work"
+    rm -rf "$1/work/half"
+    dpkg-source --no-check -q --extract "$1"/sources/*.dsc "$1/work/half" >/dev/null
+    mv "$1/work/half" "$1/work/sources"
 }
 
-configure_qt() {
+# Qt remembers where the toolchain file is, so a copy that stays is beside it.
+configure_qt() { # FOLDER
     local host_cmake
     host_cmake=/usr/lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)/cmake
-    cmake -S "$qt_work/sources" -B "$qt_work/build" "${qt_options[@]}" \
-        -DCMAKE_TOOLCHAIN_FILE="$PWD/packaging/cross/toolchain.cmake" -DCMAKE_INSTALL_PREFIX="$PWD/$qt_folder" \
+    cp packaging/cross/toolchain.cmake "$1/toolchain.cmake"
+    cmake -S "$1/work/sources" -B "$1/work/build" "${qt_options[@]}" \
+        -DCMAKE_TOOLCHAIN_FILE="$1/toolchain.cmake" -DCMAKE_INSTALL_PREFIX="$1/qt" \
         -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR="$host_cmake"
 }
 
 # Builds Qt unless it is there already. A build that was broken off goes on where it ended.
 provide_qt() {
-    local version
-    if qt_recipe | cmp -s - "$qt_folder/recipe"; then
-        say "Qt for Windows is in $qt_folder already"
+    local folder
+    folder=$(qt_home)
+    mkdir -p build/windows
+    ln -sfn "$folder/qt" build/windows/qt
+    if qt_is_there; then
+        say "Qt for Windows is in $folder already"
         return
     fi
-    version=$(qt_version)
-    say "building Qt for Windows: about two hours of one processor and 3 GB of disk, once; 160 MB of them stay"
-    [[ -f $qt_sources/version && $(<"$qt_sources/version") == "$version" ]] || fetch_qt "$version"
-    unpack_qt
-    configure_qt
-    cmake --build "$qt_work/build" --parallel "$(nproc)"
-    rm -rf "$qt_folder"
-    cmake --install "$qt_work/build" >/dev/null
-    qt_recipe >"$qt_folder/recipe"
-    rm -rf "$qt_work"
+    say "building Qt for Windows in $folder: about two hours of one processor and 3 GB of disk, once; 160 MB of" \
+        "them stay until you delete that folder"
+    [[ -f $folder/sources/complete ]] || fetch_qt "$folder"
+    unpack_qt "$folder"
+    configure_qt "$folder"
+    cmake --build "$folder/work/build" --parallel "$(nproc)"
+    rm -rf "$folder/qt"
+    cmake --install "$folder/work/build" >/dev/null
+    qt_recipe >"$folder/qt/recipe"
+    rm -rf "$folder/work"
 }
