@@ -10,8 +10,8 @@
 
 namespace {
 
-/// What a screen reader says; it asks for it a moment after it appears.
-QString SpokenIn(QWidget const& window)
+/// What a screen reader says; it asks for it a moment after it appears. Unused with later toolkits.
+[[maybe_unused]] QString SpokenIn(QWidget const& window)
 {
     for (QObject* const child : window.children()) {
         QAccessibleInterface const* const spoken = QAccessible::queryAccessibleInterface(child);

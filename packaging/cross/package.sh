@@ -1,4 +1,4 @@
-# shellcheck shell=bash disable=SC2034,SC2154
+# shellcheck shell=bash
 # The icon of the program for Windows, and the package that a teacher gets.
 
 package_packages=(librsvg2-bin icoutils zip)

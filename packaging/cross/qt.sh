@@ -1,8 +1,9 @@
-# shellcheck shell=bash disable=SC2034
+# shellcheck shell=bash
 # Qt for Windows as static libraries, from Debian's own source package in the version that is installed here: its
 # moc, rcc and uic are the ones that serve the cross build. The result is kept in the user's cache folder, for all
 # clones; build/windows/qt is a link to it.
 
+# shellcheck disable=SC2034 # packaging/windows installs them
 qt_packages=(build-essential cmake ninja-build qt6-base-dev g++-mingw-w64-x86-64-posix dpkg-dev)
 
 # What the program uses: Core, Gui, Widgets, PrintSupport and, for the tests, Test. Zlib, FreeType, HarfBuzz, PCRE2
@@ -20,7 +21,7 @@ qt_options=(
 qt_version() { dpkg-query -W -f='${source:Version}' qt6-base-dev; }
 
 # Where the Qt that fits this machine is, with its sources and, while it is built, its work.
-qt_home() { echo "${XDG_CACHE_HOME:-$HOME/.cache}/gradeloom-build/qt-windows-$(qt_version)"; }
+qt_home() { echo "$(cache_folder)/qt-windows-$(qt_version)"; }
 
 # What a finished Qt was built from; a change of any of it builds Qt anew.
 qt_recipe() {

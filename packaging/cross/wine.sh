@@ -1,6 +1,7 @@
-# shellcheck shell=bash disable=SC2034,SC2154
+# shellcheck shell=bash
 # A Windows to try the program on: Wine, with a home of its own in build/windows/home. Wants tour/desktop.sh.
 
+# shellcheck disable=SC2034 # packaging/windows installs them before it starts packaging/cross/try
 wine_packages=(wine wine64 fonts-wine)
 wine_settings=()
 
