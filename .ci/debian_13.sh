@@ -55,6 +55,7 @@ test_on_debian_13() {
     mkdir -p build "$(cache_folder)"
     exec {lock}>"$debian_13.lock"
     flock "$lock"
+    is_younger_than_a_week || say "making one in $debian_13: 2 GB, until you delete that folder as root"
     if ! { provide_debian_13 && inside "$debian_13" true; } >"$log" 2>&1; then
         leave_out "none can be made and entered here: $(tail -n 1 "$log")"
         return
