@@ -317,7 +317,7 @@ QByteArray ContentOf(QString const& path)
 {
     QFile file(path);
     QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    if (kIsWindows) {
+    if (kIsWindows && !bytes.startsWith("%PDF-")) {
         bytes.replace("\n", "!\n").replace("\r!\n", "\n");
     }
     return bytes;

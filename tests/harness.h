@@ -162,7 +162,7 @@ void CheckScenario(QString const& before = {}, Caller caller = {});
 void StartAgain();
 /// The scale file that is read at the start.
 QString PreferencesPath();
-/// What a file holds, with the platform's line ends as "\n". On Windows any other line end shows as "!\n".
+/// What a file holds; a text with the platform's line ends as "\n". On Windows any other line end shows as "!\n".
 QByteArray ContentOf(QString const& path);
 void WriteFile(QString const& path, QByteArray const& bytes);
 /// Starts the toolkit for tests, with an empty home.
