@@ -24,7 +24,7 @@ debian_mirror() {
         awk -v "wanted=$codename main" '$1 " " $2 == wanted && !mirror { mirror = $3 } END { print mirror }'
 }
 
-# Mounts nothing outside: what is deleted here is never more than this folder.
+# Nothing can be mounted below it here, and if something were, it would be left alone.
 delete_system() { as_root rm -rf --one-file-system "$1"; } # FOLDER
 
 # A new one takes the place of the old one only when it is complete.
