@@ -10,6 +10,8 @@
 #include <QTextLayout>
 #include <QTimer>
 
+#include <functional>
+
 namespace {
 
 /// A session of so many entries: entry n missed n of 200 points.
@@ -97,6 +99,15 @@ void CompareReports(std::vector<Word> const& words, std::vector<Word> const& exp
     }
 }
 
+/// Does something to the next dialog as soon as it is open, which may be later than a timer's first turn.
+void OnDialog(std::function<void(QWidget*)> const& act)
+{
+    QTimer::singleShot(1, qApp, [act] {
+        QWidget* const dialog = QApplication::activeModalWidget();
+        dialog == nullptr ? OnDialog(act) : act(dialog);
+    });
+}
+
 } // namespace
 
 /// The printed report, read back from a real PDF file, and the export.
@@ -179,8 +190,8 @@ private slots:
     {
         TestSession const session;
         TestSession::useRealDoors();
-        QTimer::singleShot(1, qApp, [] {
-            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        OnDialog([](QWidget* widget) {
+            auto* const dialog = qobject_cast<QFileDialog*>(widget);
             QMetaObject::invokeMethod(dialog, "reject", Qt::QueuedConnection);
             QCOMPARE(dialog->windowTitle(), "Select a Grading Scale"_L1);
             QCOMPARE(dialog->acceptMode(), QFileDialog::AcceptOpen);
@@ -189,8 +200,8 @@ private slots:
         session.play("FileOpen");
         session.activate();
         session.enterScores("40", {"4"});
-        QTimer::singleShot(1, qApp, [&] {
-            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        OnDialog([&](QWidget* widget) {
+            auto* const dialog = qobject_cast<QFileDialog*>(widget);
             QCOMPARE(dialog->windowTitle(), "Save your file"_L1);
             QCOMPARE(dialog->acceptMode(), QFileDialog::AcceptSave);
             // Elsewhere the toolkit's own alone shows the prompt.
@@ -206,8 +217,8 @@ private slots:
             return; // the print dialog is the system's own, which can't be driven from here
         }
         session.activate();
-        QTimer::singleShot(1, qApp, [&] {
-            auto* const dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+        OnDialog([&](QWidget* widget) {
+            auto* const dialog = qobject_cast<QPrintDialog*>(widget);
             QCOMPARE(dialog->maxPage(), 1);
             auto* const file = dialog->findChild<QLineEdit*>(u"filename"_s);
             QString const proposed = QFileInfo(file->text()).fileName();
