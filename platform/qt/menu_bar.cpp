@@ -31,10 +31,10 @@ MenuItem::MenuItem(std::string_view name, std::string_view text, std::string_vie
 {
     action_->setObjectName(ToQt(name));
     bool const isSeparator = text == "-";
-    action_->setText(isSeparator ? QString() : ToQt(text)); // a line with a text is drawn as a heading
+    action_->setText(isSeparator ? QString() : ToQt(text)); // a separator with text is drawn as a heading
     action_->setSeparator(isSeparator);
     action_->setShortcut(ToKeys(shortcut));
-    action_->setAutoRepeat(false); // a key held down must not undo a whole class
+    action_->setAutoRepeat(false); // holding Ctrl+Z must not undo a whole class
     action_->setMenuRole(QAction::NoRole);
     action_->setVisible(!text.empty());
 }
@@ -96,7 +96,7 @@ MenuItem* MenuItem::Find(std::string_view name)
     return nullptr;
 }
 
-/// Makes the item a menu if it has anything to show in one, and a command otherwise.
+/// Makes the item a menu if any of its children has a caption, otherwise a command.
 void MenuItem::BuildMenu(MenuBar& bar)
 {
     bool const opens =
@@ -106,7 +106,7 @@ void MenuItem::BuildMenu(MenuBar& bar)
         action_->setMenu(menu_.get());
         QObject::connect(menu_.get(), &QMenu::aboutToShow, menu_.get(), [this, &bar] {
             bar.Update();
-            if (IsDialogOpen()) { // only an assistive program can open a menu then
+            if (IsDialogOpen()) { // opened by an assistive program
                 QMetaObject::invokeMethod(menu_.get(), &QMenu::close, Qt::QueuedConnection);
             }
         });
@@ -194,7 +194,7 @@ void MenuBar::Update()
     }
 }
 
-/// Carries out a command: here, or by the handler of the window in front.
+/// Runs a command here, or through the handler of the window in front.
 void MenuBar::Choose(MenuItem const& item)
 {
     if (IsDialogOpen()) {

@@ -23,10 +23,10 @@
 
 namespace {
 
-/// Returns the exit status if the program is only asked something, or something that it does not know.
+/// Returns the exit status if the command line asks a question or is not understood.
 std::optional<int> AnswerCommandLine(int count, char const* const* arguments)
 {
-    // A desktop restarts the program with "-session" and the session's name, which there is no use for.
+    // A desktop may restart the program with "-session" and a name, which are ignored.
     for (int i = 1; i < count; i += 2) {
         std::string_view const argument = arguments[i];
         if (argument == "-session") {
@@ -50,20 +50,20 @@ std::optional<int> AnswerCommandLine(int count, char const* const* arguments)
     return std::nullopt;
 }
 
-/// Handles the toolkit's messages while it starts: without a display it would abort the process.
+/// Handles Qt's messages while it starts. Without a display it would abort the process.
 void EndWithoutDisplay(QtMsgType type, QMessageLogContext const& context, QString const& text)
 {
     if (type == QtFatalMsg) {
         AttachToParentConsole();
         std::cerr << PROGRAM_NAME ": there is no display that its windows could be shown on\n";
-        std::_Exit(EXIT_FAILURE); // no destructor may use a toolkit that is only half created
+        std::_Exit(EXIT_FAILURE); // Qt is only half created, so no destructor may use it
     }
-    if (type == QtDebugMsg) { // switched on by a developer
+    if (type == QtDebugMsg) { // a developer switched it on
         std::cerr << FromQt(qFormatLogMessage(type, context, text)) << '\n';
     }
 }
 
-/// The icon from where it is installed. Asking for it by its name would read whole icon themes at every start.
+/// The installed icon. QIcon::fromTheme would read whole icon themes at every start.
 QIcon InstalledIcon()
 {
     QIcon icon;

@@ -14,7 +14,7 @@ LineEdit& Field(Control const& control)
     return static_cast<LineEdit&>(control.Widget());
 }
 
-/// Moves the focus here and delivers its GotFocus before anything else happens.
+/// Moves the focus here and delivers GotFocus at once.
 void TakeFocus(LineEdit& field)
 {
     field.setFocus(Qt::OtherFocusReason);

@@ -12,8 +12,8 @@
 
 namespace {
 
-/// Destroys a closed window once no handler runs, and then after the current event: both may be the window's own. An
-/// event alone is not enough, since a handler's message box handles events while the handler waits.
+/// Destroys a closed window when no handler is running and the current event is over, since both may belong to it. The
+/// event alone is not enough: a message box handles events while the handler that opened it waits.
 class ClosedWindow final : public QObject {
 public:
     explicit ClosedWindow(std::unique_ptr<Window> window) : QObject(qApp), window_(std::move(window))
@@ -40,7 +40,7 @@ Window::Window(std::string className)
     topLevel_->setObjectName(ToQt(className_));
 }
 
-/// Controls are destroyed from the last to the first: those inside another one before it.
+/// Destroys the controls from last to first, so that children go before their parent.
 Window::~Window()
 {
     while (!controls_.empty()) {
@@ -113,8 +113,8 @@ Control& Window::Find(std::string_view name) const
     return *found->second;
 }
 
-/// Sets the keyboard order by the tab numbers: the window's own controls, each followed by those inside it. The
-/// first one that takes keys gets the focus.
+/// Sets the Tab order by the tab numbers: the window's own controls, each followed by its children. Focuses the first
+/// one that takes keys.
 void Window::OrderKeyboard()
 {
     auto const isInside = [this](Control const* control) {

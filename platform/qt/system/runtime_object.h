@@ -10,29 +10,28 @@ class MenuBar;
 class QApplication;
 class Window;
 
-/// Owns what lives as long as the program runs, and its exit status. The object itself is never destroyed: at a
-/// sudden exit, when a display is lost for one, nothing that leans on the toolkit may run any more.
+/// Owns what lives as long as the program runs, and its exit status. It is never destroyed: at a sudden exit, such as
+/// when the display is lost, no destructor may use Qt.
 class Runtime final {
 public:
     static Runtime& instance();
     Runtime(Runtime const&) = delete;
     Runtime& operator=(Runtime const&) = delete;
 
-    /// The open windows by their class names. Closing the last one ends the program.
+    /// The open windows by class name. Closing the last one ends the program.
     std::map<std::string, std::unique_ptr<Window>, std::less<>> windows;
     std::vector<std::unique_ptr<MenuBar>> menuBars;
     std::unique_ptr<Application> application;
     int exitStatus = 0;
-    bool isEnding = false; ///< since a call of end
+    bool isEnding = false; ///< end was called
 
-    /// Creates the toolkit's application object for a program of this name.
+    /// Creates the application object of a program with this name.
     void start(char const* programName);
-    /// Runs the event loop, unless the program is to end already.
+    /// Runs the event loop, unless the program is already ending.
     void run();
-    /// Ends the event loops. Open dialogs count as cancelled, open questions as answered with No, and no further
-    /// one opens.
+    /// Ends the event loops. Open dialogs are cancelled, open questions answered with No, and no new ones open.
     void end();
-    /// Destroys the windows, then the menu bars, the application object and last the toolkit.
+    /// Destroys the windows, then the menu bars, the application object and Qt itself.
     void finish();
 
 private:
@@ -41,6 +40,6 @@ private:
 
     std::unique_ptr<QApplication> toolkit_;
     std::string name_;
-    std::vector<char*> arguments_; ///< the toolkit keeps references to them
+    std::vector<char*> arguments_; ///< Qt keeps references to them
     int argumentCount_ = 1;
 };

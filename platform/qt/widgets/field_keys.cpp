@@ -26,8 +26,8 @@ bool IsAltKey(QKeyEvent const& event)
 #endif
 }
 
-/// The toolkit numbers the keys of its own from Escape on: first the usual ones, with the modifiers among them, then
-/// from the direction keys on switches of the layout, dead keys and media keys.
+/// In Qt's numbering the special keys start at Escape: first the usual ones, including modifiers, then, from
+/// Key_Direction_L on, layout switches, dead keys and media keys.
 bool IsKeyForField(QKeyEvent const& event)
 {
     switch (event.key()) {

@@ -3,9 +3,9 @@
 class QStyle;
 class QWidget;
 
-/// The one style that draws the controls of windows with colours of their own: a desktop's style may recolour or
-/// hide them. It draws the frame around the focused control too.
+/// The style for all windows with their own colours, since a desktop's style may recolour or hide controls. It also
+/// draws the frame around the focused control.
 QStyle& FormStyle();
 
-/// Draws a control with this style, if its parent is drawn so. The toolkit does not pass a style on to children.
+/// Gives a control this style if its parent has it. Qt does not pass styles on to children.
 void InheritFormStyle(QWidget& control);

@@ -5,22 +5,22 @@
 
 class TopLevel;
 
-/// The window in front, and the menu command whose shortcut does nothing there when it is pressed next.
+/// The window in front, and the menu command whose next shortcut is ignored there.
 class FrontWindow final {
 public:
-    /// The window that is or last was active; null if there is none.
+    /// The active window, or the last one that was active; null if there is none.
     [[nodiscard]] TopLevel* window() const;
-    /// This window is active now.
+    /// Called when a window becomes active.
     void enter(TopLevel& window);
-    /// The window has closed; until another one becomes active there is none in front.
+    /// Called when a window closes. No window is in front until another one becomes active.
     void leave(TopLevel const& window);
 
-    /// The next press of this command's shortcut does nothing, unless something is typed, another command is chosen
-    /// or the focus moves before it. Choosing the command itself always acts.
+    /// Ignores the next press of this command's shortcut, unless the user types, chooses another command or moves the
+    /// focus first. The menu item itself always works.
     void ignoreNextShortcut(QObject const& command) { ignored_ = &command; }
-    /// The next press of every shortcut acts again.
+    /// No shortcut is ignored any more.
     void heedShortcuts() { ignored_ = nullptr; }
-    /// Whether this press of a command's shortcut does nothing. The press after it acts.
+    /// Whether to ignore this press of the command's shortcut. The next press works again.
     [[nodiscard]] bool ignoresShortcut(QObject const& command);
 
 private:

@@ -6,14 +6,14 @@
 #include <deque>
 #include <functional>
 
-/// The pending GotFocus events. They are delivered soon after the event that moved the focus, and before anything
-/// else that the user does, so that a message box that answers one never opens in the middle of a click.
+/// The pending GotFocus events. They are delivered soon after the event that moved the focus, and before the user's
+/// next input, so that a message box opened by a handler never interrupts a click.
 class GotFocusQueue final {
 public:
-    /// The field has gained the focus; its handler is called at the next delivery.
+    /// Queues the event of a field that has gained the focus.
     void add(QWidget* field, std::function<void()> const& gotFocus);
     void deliver();
-    /// Delivers them if this event has to wait for them. To be called before its receiver gets it.
+    /// Delivers them if this event has to wait for them. Called before its receiver gets it.
     void deliverBefore(QObject const& receiver, QEvent const& event);
 
 private:

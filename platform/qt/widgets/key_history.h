@@ -4,15 +4,15 @@
 
 class QKeyEvent;
 
-/// When the last keys went down and up, by the time stamps of their events in milliseconds. An event without one may
-/// be a copy of an earlier event, so no time is taken from it.
+/// When the last keys were pressed and released, by the time stamps of their events in milliseconds. An event without
+/// a time stamp may be a copy of an earlier one, so its time does not count.
 class KeyHistory final {
 public:
-    /// To be called with each key event before its receiver gets it. A press that passes several receivers counts once.
+    /// Called with each key event before its receiver gets it. A press sent to several receivers counts once.
     void note(QKeyEvent const& event);
 
-    /// Whether the last press repeats a key that is held down. On X11 a repeat is a release and a press with one time
-    /// stamp; the toolkit marks it only if both have arrived by the time that it looks.
+    /// Whether the last press is the repeat of a held key. On X11 a repeat is a release and a press with the same time
+    /// stamp; Qt marks it only if both have already arrived.
     [[nodiscard]] bool isLastPressRepeat() const { return isRepeat_; }
 
     /// Milliseconds between the last press and the one before it.
@@ -27,6 +27,6 @@ private:
 
     Stroke lastPress_;
     Stroke lastRelease_;
-    quint64 timeBefore_ = 0; ///< of the press before the last one
+    quint64 timeBefore_ = 0; ///< time of the press before the last one
     bool isRepeat_ = false;
 };

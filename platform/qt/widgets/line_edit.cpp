@@ -59,7 +59,7 @@ void LineEdit::enter()
     selectsAfterClick_ = !isReadOnly() && QGuiApplication::mouseButtons() == Qt::LeftButton;
 }
 
-/// A drag has selected what it covers, which stays.
+/// If the user dragged, what the drag selected stays selected.
 void LineEdit::endClick()
 {
     if (std::exchange(selectsAfterClick_, false) && !hasSelectedText()) {
@@ -87,8 +87,7 @@ bool LineEdit::event(QEvent* event)
         }
     }
     if (event->type() == QEvent::WindowActivate) {
-        // A moment later the toolkit's line edit would deselect its text, since a second message box may have the focus
-        // by then.
+        // QLineEdit would deselect its text a moment later if a second message box has the focus by then.
         return QWidget::event(event); // NOLINT(bugprone-parent-virtual-call)
     }
     return QLineEdit::event(event);
@@ -96,7 +95,7 @@ bool LineEdit::event(QEvent* event)
 
 void LineEdit::focusOutEvent(QFocusEvent* event)
 {
-    endClick(); // a message box takes the focus, and the release of the button
+    endClick(); // a message box opens while the button is down
     QLineEdit::focusOutEvent(event);
 }
 

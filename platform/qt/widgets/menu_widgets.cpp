@@ -2,13 +2,13 @@
 
 #include <QKeyEvent>
 
-/// The bar watches its window. What it does with this event is to wait for Alt alone.
+/// QMenuBar watches its window for this event to see Alt being tapped.
 bool MenuBarWidget::eventFilter(QObject* watched, QEvent* event)
 {
     return event->type() != QEvent::ShortcutOverride && QMenuBar::eventFilter(watched, event);
 }
 
-/// The toolkit's own Escape would leave the keyboard in the bar, where nothing shows it.
+/// Otherwise Escape would leave the keyboard in the bar, where nothing shows it.
 void MenuWidget::keyPressEvent(QKeyEvent* event)
 {
     bool const isLeft = event->matches(QKeySequence::Cancel) || event->key() == Qt::Key_F10;

@@ -3,8 +3,7 @@
 #include <QMenu>
 #include <QMenuBar>
 
-/// A menu bar that takes the keyboard only while one of its menus is open. The toolkit's would also take it at a tap
-/// on Alt.
+/// A menu bar that takes the keyboard only while one of its menus is open. QMenuBar also takes it when Alt is tapped.
 class MenuBarWidget final : public QMenuBar {
 public:
     using QMenuBar::QMenuBar;

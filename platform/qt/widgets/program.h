@@ -8,8 +8,8 @@
 
 #include <functional>
 
-/// The application object. It sees each event before its receiver does, and keeps what is known of the keyboard, the
-/// focus and the windows as a whole.
+/// The application object. It sees each event before its receiver does, and owns the state that belongs to no single
+/// window: keys, focus events, the window in front.
 class Program final : public QApplication {
 public:
     using QApplication::QApplication;
@@ -19,10 +19,10 @@ public:
     KeyHistory keys;
     GotFocusQueue gotFocus;
     FrontWindow front;
-    std::function<void()> quitRequested; ///< by the desktop, at a log-out for one; no window is asked
+    std::function<void()> quitRequested; ///< the desktop asks the program to quit, for example at a log-out
 
-    /// Calls back now if the program is handling input of the user, else once the caller has its answer: an assistive
-    /// program that chooses a command must not wait for the dialog that the command opens.
+    /// Runs the command now if the user's input is being handled, otherwise from the event loop: an assistive program
+    /// that chooses a command must not wait for the dialog that the command opens.
     void runCommand(std::function<void()> const& command);
 
     bool notify(QObject* receiver, QEvent* event) override;
@@ -33,5 +33,5 @@ protected:
 private:
     bool notifyKey(QObject* receiver, QKeyEvent* event);
 
-    int inputDepth_ = 0; ///< events of the user being handled, one inside the other
+    int inputDepth_ = 0; ///< nesting depth of input events
 };

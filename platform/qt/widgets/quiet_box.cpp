@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kQuietTime = 500; // milliseconds
 
-/// A letter or digit meant for a field, or a key that is held down.
+/// A letter or digit meant for a field, or a held key.
 bool IsStray(QKeyEvent const& event)
 {
     bool const isPlain = !(event.modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier));
@@ -41,7 +41,7 @@ void QuietBox::showEvent(QShowEvent* event)
     QApplication::beep();
 }
 
-/// Sees the events of the whole application: while the box is open every key is meant for it.
+/// Sees the events of the whole application: while the box is open, every key goes to it.
 bool QuietBox::eventFilter(QObject* /*receiver*/, QEvent* event)
 {
     switch (event->type()) {
@@ -59,7 +59,7 @@ bool QuietBox::eventFilter(QObject* /*receiver*/, QEvent* event)
     }
 }
 
-/// The time stamps count beside the timer: they show how fast the keys came when the program was late to look.
+/// The time stamps matter too: they show how fast keys were typed when the program was too busy to look.
 bool QuietBox::takesKeys(QKeyEvent const& event)
 {
     bool const isSoon =

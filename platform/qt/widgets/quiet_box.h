@@ -3,9 +3,9 @@
 #include <QMessageBox>
 #include <QTimer>
 
-/// A message box that only a deliberate key answers. It takes no key until the keyboard has been quiet for half a
-/// second since it appeared: until then every key is dropped, since it was meant for a field. After that Tab,
-/// arrows, Space, Return, Escape and Alt letters work, plain letters never. The mouse works at once.
+/// A message box that only a deliberate key answers. It drops every key until the keyboard has been quiet for half a
+/// second, since those keys were meant for a field. After that Tab, arrows, Space, Return, Escape and Alt letters work;
+/// plain letters never do. The mouse works at once.
 class QuietBox final : public QMessageBox {
 public:
     explicit QuietBox(QWidget* parent);
@@ -20,6 +20,6 @@ protected:
 private:
     [[nodiscard]] bool takesKeys(QKeyEvent const& event);
 
-    QTimer quiet_; ///< runs while the keyboard has to stay quiet
+    QTimer quiet_; ///< runs until the keyboard has been quiet
     bool isOpen_ = false;
 };

@@ -17,7 +17,7 @@ void SpeakIn(QWidget& window, QString const& text)
 
 namespace {
 
-/// A notification that exists for assistive programs alone. A screen reader speaks it when it appears.
+/// A notification that only assistive programs see. A screen reader speaks it when it appears.
 class Notification final : public QAccessibleObject {
 public:
     using QAccessibleObject::QAccessibleObject;
@@ -39,7 +39,7 @@ public:
 
 } // namespace
 
-/// A screen reader asks for the text a moment later, so it stays until the next one comes.
+/// A screen reader asks for the text a moment later, so it is kept until the next one.
 void SpeakIn(QWidget& window, QString const& text)
 {
     static QPointer<QObject> spoken;

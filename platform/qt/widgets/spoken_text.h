@@ -4,5 +4,5 @@
 
 class QWidget;
 
-/// Makes a screen reader say a text, without a change to the window or its focus.
+/// Makes a screen reader say a text. The window and its focus stay as they are.
 void SpeakIn(QWidget& window, QString const& text);

@@ -4,12 +4,12 @@
 
 class LineEdit;
 
-/// A menu command that the layer carries out itself, on the focused text field.
+/// A menu command that acts on the focused text field and needs no handler.
 struct TextCommand {
     std::string_view item;
-    bool needsEditable; ///< off on a read-only field
+    bool needsEditable; ///< disabled for a read-only field
     void (*run)(LineEdit& field);
 };
 
-/// The command of the menu item of this name; null if it is none of them.
+/// The command of this menu item; null if it is not a text command.
 TextCommand const* FindTextCommand(std::string_view item);

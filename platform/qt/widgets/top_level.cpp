@@ -17,8 +17,8 @@
 
 namespace {
 
-/// Scrolls a window's content by wheel, by Page Up and Page Down where the focused control has no use for them,
-/// and with the focus. It is no stop of the Tab key.
+/// Scrolls a window's content with the wheel, with Page Up and Page Down if the focused control ignores them, and when
+/// the focus moves. Tab does not stop here.
 class ContentScroller final : public QScrollArea {
 public:
     using QScrollArea::QScrollArea;
@@ -35,7 +35,7 @@ protected:
     }
 };
 
-/// Opens a menu as a click on its title does, with its first item chosen.
+/// Opens a menu as a click on its title does, and selects its first item.
 void OpenMenu(QMenuBar& bar, QAction& title)
 {
     bar.setActiveAction(&title);
@@ -64,7 +64,7 @@ TopLevel::TopLevel() : content_(new QWidget(this)), focusFrame_(new QFocusFrame(
 
 void TopLevel::fitToScreen()
 {
-    constexpr QSize kFrame(16, 48); // pixels that a title bar and its frame may take
+    constexpr QSize kFrame(16, 48); // pixels reserved for the title bar and frame
     int const menuHeight = menuBar()->sizeHint().height();
     QSize const room = screen()->availableSize() - kFrame - QSize(0, menuHeight);
     QSize const wanted = content_->size();
@@ -92,10 +92,10 @@ void TopLevel::noteFocus(QWidget* control)
         left->leave();
     }
     focusedControl_ = control;
-    if (scrollArea_ != nullptr) { // first: around a control that is out of sight the frame would stay hidden
+    if (scrollArea_ != nullptr) { // first, since the frame of a hidden control stays hidden
         scrollArea_->ensureWidgetVisible(control);
     }
-    focusFrame_->setWidget(control); // which makes it a child of the window, whose colours are the desktop's
+    focusFrame_->setWidget(control); // makes it a child of the window, which has the desktop's colours
     focusFrame_->setPalette(content_->palette());
     Program::instance().front.heedShortcuts();
     if (auto* const field = dynamic_cast<LineEdit*>(control)) {
@@ -115,7 +115,7 @@ void TopLevel::beginCommand()
 
 void TopLevel::addMenuKeys()
 {
-#ifndef Q_OS_MACOS // which opens menus in a way of its own
+#ifndef Q_OS_MACOS // which has its own keys for menus
     auto const add = [this](QString const& keys, QAction& title) {
         auto* const shortcut =
             new QShortcut(QKeySequence(keys), this, [this, &title] { OpenMenu(*menuBar(), title); });
@@ -143,7 +143,7 @@ bool TopLevel::event(QEvent* event)
     return QMainWindow::event(event);
 }
 
-/// Only the desktop sends this event: the program hides a window that it closes.
+/// Only the desktop sends this event; Window::Close hides the window instead.
 void TopLevel::closeEvent(QCloseEvent* event)
 {
     event->ignore();

@@ -11,30 +11,30 @@
 
 class QScrollArea;
 
-/// The QMainWindow behind a window: its menu bar and what the commands do there, its close button, its default
-/// button, and which of its controls has the keyboard focus.
+/// The QMainWindow behind a Window: its menu bar and commands, its close button, its default button, and the control
+/// that has the focus.
 class TopLevel final : public QMainWindow {
 public:
     TopLevel();
 
-    /// What the menu items do while this window is in front, by the item's name.
+    /// Handlers of menu items while this window is in front, by item name.
     std::map<std::string, std::function<void()>, std::less<>> menuHandlers;
-    std::function<void()> enableMenuItems; ///< the window switches its items on or off
-    std::function<void()> updateMenuBar;   ///< what is on in the bar may have changed
-    std::function<void()> closeRequested;  ///< by the close button; empty in a window that has none
-    QPointer<QPushButton> defaultButton;   ///< what Return and Enter press
+    std::function<void()> enableMenuItems; ///< enables the window's own items
+    std::function<void()> updateMenuBar;   ///< called when items may have to be enabled or disabled
+    std::function<void()> closeRequested;  ///< the user closes the window; empty if it has no close button
+    QPointer<QPushButton> defaultButton;   ///< pressed by Return and Enter
 
     [[nodiscard]] QWidget& content() const { return *content_; }
-    /// Makes the content scroll if the screen has no room for all of it.
+    /// Makes the content scroll if the screen is smaller.
     void fitToScreen();
-    /// The control that has the window's keyboard focus, or had it when the window was last in front.
+    /// The control that has the window's focus, also while another window is in front.
     [[nodiscard]] QWidget* focusedControl() const { return focusedControl_; }
-    /// The window's focus is now here. The same control again is no news.
+    /// Records that the focus moved to this control. Does nothing if it already has the focus.
     void noteFocus(QWidget* control);
 
-    /// A button or menu command begins: typing from before it can no longer be undone.
+    /// Called when a button or menu command starts. Earlier typing can no longer be undone.
     void beginCommand();
-    /// Opens the menus with Alt and the first letter of their titles, and the first one with F10.
+    /// Adds the keys that open menus: Alt with the first letter of a title, and F10 for the first menu.
     void addMenuKeys();
 
 protected:
@@ -46,7 +46,7 @@ private:
     void bringMenuBarUpToDate();
 
     QWidget* content_;
-    QScrollArea* scrollArea_ = nullptr; ///< around the content, on a screen that is too small for it
+    QScrollArea* scrollArea_ = nullptr; ///< around the content; null if the screen is large enough
     QFocusFrame* focusFrame_;
     QPointer<QWidget> focusedControl_;
 };
