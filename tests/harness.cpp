@@ -46,11 +46,6 @@ bool IsExpected(MessageBoxRequest const& request, TestSession::Box const& box)
            request.title.empty() && request.question == (box.answer != 0);
 }
 
-void Fail(QString const& message, Caller caller)
-{
-    QTest::qFail(qPrintable(message), caller.file, caller.line);
-}
-
 void Drop(QWidget* field, QString const& text)
 {
     QMimeData data;
@@ -63,14 +58,11 @@ void Drop(QWidget* field, QString const& text)
 }
 
 /// Presses a key: "Ctrl+Z".
-void PressKey(QString const& name, Caller caller)
+void PressKey(QString const& name)
 {
     QKeyCombination const key = QKeySequence(name)[0];
-    if (key.key() == 0 || key.key() == Qt::Key_unknown) {
-        Fail("there is no such key: " + name, caller);
-    } else {
-        QTest::keyClick(QApplication::focusWidget(), key.key(), key.keyboardModifiers());
-    }
+    QVERIFY2(key.key() != 0 && key.key() != Qt::Key_unknown, qPrintable(name));
+    QTest::keyClick(QApplication::focusWidget(), key.key(), key.keyboardModifiers());
 }
 
 } // namespace
@@ -136,10 +128,7 @@ TestSession::~TestSession()
 
 void TestSession::useRealDoors()
 {
-    PlatformDoors().messageBox = realDoors.messageBox;
-    PlatformDoors().fileDialog = realDoors.fileDialog;
-    PlatformDoors().printDialog = realDoors.printDialog;
-    PlatformDoors().browser = realDoors.browser;
+    PlatformDoors() = realDoors;
 }
 
 QMainWindow* TestSession::window(char const* name) const
@@ -154,7 +143,8 @@ QMainWindow* TestSession::window(char const* name) const
 
 void TestSession::reportMissing(QString const& name, char const* in, Caller caller)
 {
-    Fail(u"there is no such control or command: \"%1\" in \"%2\""_s.arg(name, QLatin1String(in)), caller);
+    QString const message = u"there is no such control or command: \"%1\" in \"%2\""_s;
+    QTest::qFail(qPrintable(message.arg(name, QLatin1String(in))), caller.file, caller.line);
 }
 
 QString TestSession::text(QString const& name, char const* in, Caller caller) const
@@ -177,7 +167,8 @@ void TestSession::expectFields(QString const& expected, char const* in, Caller c
 {
     for (auto const& match : kNameAndText.globalMatch(expected)) {
         if (QString const found = text(match.captured(1), in, caller); found != match.captured(2)) {
-            Fail(u"found \"%1\", expected %2"_s.arg(found, match.captured()), caller);
+            QString const message = u"found \"%1\", expected %2"_s.arg(found, match.captured());
+            QTest::qFail(qPrintable(message), caller.file, caller.line);
         }
     }
 }
@@ -203,13 +194,10 @@ QList<QAction*> TestSession::menuItems() const
     return all;
 }
 
-void TestSession::activate(char const* name, Caller caller) const
+void TestSession::activate(char const* name) const
 {
     QMainWindow* const wanted = window(name);
-    if (wanted == nullptr) {
-        Fail(u"there is no such window: "_s + name, caller);
-        return;
-    }
+    QVERIFY2(wanted != nullptr, name);
     wanted->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(wanted));
 }
@@ -246,11 +234,6 @@ void TestSession::writeTestScale() const
     }
 }
 
-void TestSession::enterScores(QString const& points, QStringList const& missed) const
-{
-    play("total=" + points + "; missed=" + missed.join(u" Return; missed=") + " Return");
-}
-
 void TestSession::play(QString const& acts, Caller caller) const
 {
     QList<QAction*> const items = menuItems();
@@ -260,7 +243,7 @@ void TestSession::play(QString const& acts, Caller caller) const
         QString const rest = act.section(u' ', 1);
         auto const command = std::ranges::find(items, act, &QAction::objectName);
         if (QApplication::focusWidget() == nullptr) { // a box was open
-            activate("mainscreen", caller);
+            activate();
         }
         if (word == "write"_L1) {
             setFields(rest, caller);
@@ -268,7 +251,7 @@ void TestSession::play(QString const& acts, Caller caller) const
             control(rest)->setFocus(Qt::TabFocusReason);
             QCoreApplication::processEvents();
         } else if (word == "key"_L1) {
-            PressKey(rest, caller);
+            PressKey(rest);
         } else if (word == "keys"_L1) {
             QTest::keyClicks(QApplication::focusWidget(), rest);
         } else if (word == "paste"_L1) {

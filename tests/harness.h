@@ -66,7 +66,6 @@ public:
     ~TestSession();
 
     void expectBox(std::string const& text, int answer = 0) { expectedBoxes_.push_back({text, answer}); }
-    [[nodiscard]] bool allBoxesSeen() const { return expectedBoxes_.empty(); }
     /// From now on boxes and dialogs are the real ones of the desktop.
     static void useRealDoors();
 
@@ -101,14 +100,12 @@ public:
     void expectScale(QString const& numbers, Caller caller = {}) const;
 
     /// Brings the window to the front and waits until it is active.
-    void activate(char const* name = "mainscreen", Caller caller = {}) const;
+    void activate(char const* name = "mainscreen") const;
     /// Moves the focus to a field as Tab does; its GotFocus has been raised when this returns.
     [[nodiscard]] QLineEdit* enterField(QString const& name, Caller caller = {}) const;
     /// Replaces a field's text by typing, key by key; a line end is a press of Return.
     void type(QString const& name, QString const& text, char const* in = "mainscreen",
               Caller caller = {}) const;
-    /// Types the number of points, then each number missed with Return.
-    void enterScores(QString const& points, QStringList const& missed) const;
     /// Writes texts as the program does: "amin=80 amax=97".
     void setFields(QString const& fields, Caller caller = {}) const;
     void writeTestScale() const;

@@ -146,7 +146,7 @@ private slots:
             TestSession const session;
             session.play("filepresent");
             session.activate();
-            session.enterScores("30", {"3", "6"});
+            session.play("total=30; missed=3 Return; missed=6 Return");
             TestSession::useRealDoors();
             QAccessibleInterface const& all = *QAccessible::queryAccessibleInterface(session.window());
             QString found;

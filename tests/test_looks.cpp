@@ -136,7 +136,7 @@ private slots:
     void listsDrawCellsAndSelectedRowsWhereTheyBelong()
     {
         TestSession const session;
-        session.enterScores("30", {"3", "6", "9"});
+        session.play("total=30; missed=3 Return; missed=6 Return; missed=9 Return");
         auto* const list = session.widget<QTableView>("ListBox1");
         auto const changedBy = [list](auto const& act) {
             QImage const before = ScreenOf(*list->viewport());
@@ -193,7 +193,7 @@ private slots:
         for (QString const& style : QStyleFactory::keys()) {
             UseStyle(style, *row);
             TestSession const session;
-            session.enterScores("40", {"4", "8"});
+            session.play("total=40; missed=4 Return; missed=8 Return");
             for (char const* const name : {"mainscreen", "Window1", "Author"}) {
                 if (name == "Window1"_L1) {
                     ::Window1(); // not earlier, since Windows may bring a new window to the front late

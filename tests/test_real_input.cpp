@@ -89,7 +89,7 @@ private slots:
     void heldKeysActOnce()
     {
         TestSession const session;
-        session.enterScores("30", {"1", "2", "3", "4"});
+        session.play("total=30; missed=1 Return; missed=2 Return; missed=3 Return; missed=4 Return");
         KeyListener listener;
         for (int entries = 6; entries <= 8; entries += 2) {
             for (char const* const name : {"PushButton1", "missed", "checkcorrect"}) {
@@ -178,7 +178,7 @@ private slots:
     void keysSpeakWholeRows()
     {
         TestSession const session;
-        session.enterScores("30", {"3", "6", "9"});
+        session.play("total=30; missed=3 Return; missed=6 Return; missed=9 Return");
         ::Window1().EditField1().Text("105");
         ::Window1().PushButton1_Action();
         for (auto const& [name, window, expected] : {

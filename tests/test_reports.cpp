@@ -171,7 +171,8 @@ private slots:
     void exportWritesTheListedPercentages()
     {
         TestSession session;
-        session.enterScores("30", {"3", "4", "0", "30", "5"});
+        session.play(
+            "total=30; missed=3 Return; missed=4 Return; missed=0 Return; missed=30 Return; missed=5 Return");
         session.fileToChoose = session.pathOf("out");
         session.play("EditUndo; FileExport");
         QCOMPARE(ContentOf(session.fileToChoose), "90\n86.666\n100\n0\n"_ba);
@@ -194,7 +195,7 @@ private slots:
         });
         session.play("FileOpen");
         session.activate();
-        session.enterScores("40", {"4"});
+        session.play("total=40; missed=4 Return");
         OnDialog([&](QWidget* widget) {
             auto* const dialog = qobject_cast<QFileDialog*>(widget);
             QCOMPARE(dialog->windowTitle(), "Save your file"_L1);
