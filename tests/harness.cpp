@@ -28,15 +28,15 @@ QRegularExpression const kNameAndText(u"(\\w+)=(.*?)(?= \\w+=|$)"_s,
 
 QString RowsOf(QAbstractTableModel const& model)
 {
-    QString rows;
-    for (int i = 0; i < model.rowCount() * model.columnCount(); ++i) {
-        int const column = i % model.columnCount();
-        if (i > 0) {
-            rows += column > 0 ? u',' : u';';
+    QStringList rows;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        QStringList cells;
+        for (int column = 0; column < model.columnCount(); ++column) {
+            cells += model.index(row, column).data().toString();
         }
-        rows += model.index(i / model.columnCount(), column).data().toString();
+        rows += cells.join(u',');
     }
-    return rows;
+    return rows.join(u';');
 }
 
 bool IsExpected(MessageBoxRequest const& request, TestSession::Box const& box)
@@ -112,7 +112,10 @@ TestSession::TestSession(std::vector<Box> boxes) : expectedBoxes_(std::move(boxe
     ::mainscreen();
     startScale = texts(kScaleFieldNames);
     if (!QFile::exists(PreferencesPath())) {
-        writeTestScale();
+        for (int i = 0; i < 24; ++i) {
+            setFields(QString(kScaleFieldNames).section(u' ', i, i) + u'=' +
+                      QString(kTestScale).section(u' ', i, i));
+        }
     }
     activate();
 }
@@ -202,12 +205,6 @@ void TestSession::activate(char const* name) const
     QVERIFY(QTest::qWaitForWindowActive(wanted));
 }
 
-QLineEdit* TestSession::enterField(QString const& name, Caller caller) const
-{
-    play("focus " + name, caller);
-    return field(name, "mainscreen", caller);
-}
-
 void TestSession::type(QString const& name, QString const& text, char const* in, Caller caller) const
 {
     QLineEdit* const one = field(name, in, caller);
@@ -223,14 +220,6 @@ void TestSession::setFields(QString const& fields, Caller caller) const
         if (auto* const one = dynamic_cast<LineEdit*>(field(match.captured(1), "mainscreen", caller))) {
             one->writeByProgram(match.captured(2));
         }
-    }
-}
-
-void TestSession::writeTestScale() const
-{
-    for (int i = 0; i < 24; ++i) {
-        setFields(QString(kScaleFieldNames).section(u' ', i, i) + u'=' +
-                  QString(kTestScale).section(u' ', i, i));
     }
 }
 

@@ -101,18 +101,15 @@ public:
 
     /// Brings the window to the front and waits until it is active.
     void activate(char const* name = "mainscreen") const;
-    /// Moves the focus to a field as Tab does; its GotFocus has been raised when this returns.
-    [[nodiscard]] QLineEdit* enterField(QString const& name, Caller caller = {}) const;
     /// Replaces a field's text by typing, key by key; a line end is a press of Return.
     void type(QString const& name, QString const& text, char const* in = "mainscreen",
               Caller caller = {}) const;
     /// Writes texts as the program does: "amin=80 amax=97".
     void setFields(QString const& fields, Caller caller = {}) const;
-    void writeTestScale() const;
     /// Carries acts out in their order, separated by "; ", and fails for a name that the form does not have:
     ///   missed=3     types into the field, "missed=3 Return" presses Return then
     ///   EditUndo     chooses the command of that name, or else clicks the control
-    ///   focus amin   enters the field; key Left, keys 96 and paste 12 act on the focused one, and so do compose 9
+    ///   focus amin   enters the field as Tab does; key Left, keys 96 and paste 12 act on the focused one, and so do compose 9
     ///                and commit 9 of an input method
     ///   drop amax 6  drops a text on the field; edit amax 6 sets it as an assistive program does
     ///   write amin=80 amax=97   writes as the program does

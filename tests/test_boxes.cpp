@@ -31,8 +31,7 @@ std::optional<int> AnswerTo(bool isQuestion, auto const& act)
 
 void Press(QKeyCombination key)
 {
-    QString const text = key.key() < Qt::Key_Escape ? QString(QChar(key.key())).toLower() : QString();
-    QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), key.key(), text, key.keyboardModifiers());
+    QTest::keyClick(QApplication::focusWidget(), key.key(), key.keyboardModifiers());
 }
 
 /// Presses Return at this time in milliseconds.

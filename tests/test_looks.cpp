@@ -100,16 +100,13 @@ bool ShowsFocus(QWidget& control)
 void CheckControls(QWidget const& content, QString const& style)
 {
     bool const hasOwnColors = content.window()->objectName() != "Author"_L1; // that has the desktop's
-    bool hasStops = false;
     for (QWidget* const control : content.findChildren<QWidget*>()) {
         QString const name = style + u' ' + control->objectName();
         bool const isShown = control->isVisible() && control->isEnabled();
         bool const isStop = isShown && (control->focusPolicy() & Qt::TabFocus) != 0;
         QVERIFY2(!isShown || !hasOwnColors || IsLegible(*control), qPrintable(name));
         QVERIFY2(!isStop || ShowsFocus(*control), qPrintable(name));
-        hasStops = hasStops || isStop;
     }
-    QVERIFY(hasStops);
 }
 
 void UseStyle(QString const& style, Theme const& theme)
