@@ -18,9 +18,9 @@
 
 #include <algorithm>
 
-namespace {
+Doors realDoors;
 
-Doors realDoors; // those of the desktop
+namespace {
 
 /// Each name and text in "percentage=29 lettergrade=F".
 QRegularExpression const kNameAndText(u"(\\w+)=(.*?)(?= \\w+=|$)"_s,
@@ -127,11 +127,6 @@ TestSession::~TestSession()
     for (Box const& box : expectedBoxes_) {
         QTest::qFail(("box did not come: " + box.text).c_str(), __FILE__, __LINE__);
     }
-}
-
-void TestSession::useRealDoors()
-{
-    PlatformDoors() = realDoors;
 }
 
 QMainWindow* TestSession::window(char const* name) const

@@ -39,6 +39,9 @@ inline constexpr char const* kScaleFieldNames =
 inline constexpr char const* kTestScale =
     "100 98 97 93 92 90 89 88 87 83 82 80 79 78 77 73 72 70 69 68 67 63 62 60";
 
+/// Those of the desktop, which a session replaces.
+extern Doors realDoors;
+
 /// The line of a test that a failure names.
 struct Caller {
     Caller(char const* inFile = __builtin_FILE(), int inLine = __builtin_LINE()) : file(inFile), line(inLine)
@@ -66,8 +69,6 @@ public:
     ~TestSession();
 
     void expectBox(std::string const& text, int answer = 0) { expectedBoxes_.push_back({text, answer}); }
-    /// From now on boxes and dialogs are the real ones of the desktop.
-    static void useRealDoors();
 
     [[nodiscard]] class mainscreen& form() const { return ::mainscreen(); }
     [[nodiscard]] QMainWindow* window(char const* name = "mainscreen") const;

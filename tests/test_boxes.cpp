@@ -146,7 +146,7 @@ private slots:
             session.play("filepresent");
             session.activate();
             session.play("total=30; missed=3 Return; missed=6 Return");
-            TestSession::useRealDoors();
+            PlatformDoors() = realDoors;
             QAccessibleInterface const& all = *QAccessible::queryAccessibleInterface(session.window());
             QString found;
             QWidget const* focused = nullptr;
@@ -198,7 +198,7 @@ private slots:
         session.play("filepresent");
         session.activate();
         session.play("write aplusmin=95; focus amax");
-        TestSession::useRealDoors();
+        PlatformDoors() = realDoors;
         int boxes = 0;
         QTimer closer;
         connect(&closer, &QTimer::timeout, this, [&boxes] {

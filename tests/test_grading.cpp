@@ -144,17 +144,6 @@ private slots:
         }
     }
 
-    void stampsAreSetBeforeTheQuestionAndPointsRestoredAfterTheNotice()
-    {
-        TestSession session({{kScaleUnsound, kNo}, {kPointsAreFixed}});
-        session.setFields("amin=98 total=37.5");
-        session.whileBoxIsUp = [&] { session.expectFields("problem=1 pointstemp=37.5"); };
-        session.form().PushButton1_Action();
-        session.whileBoxIsUp = [&] { session.expectFields("total=7"); };
-        session.play("write amin=93; missed=3 Return; focus total; key 7");
-        session.expectFields("total=37.5 numstudents=1 ListBox1=1,91.891,%");
-    }
-
     void listScrollsToItsLastRow()
     {
         TestSession const session;

@@ -163,14 +163,6 @@ private slots:
     void typingAndPastingFollowTheFieldsRules_data() { AddRows(kActs); }
     void typingAndPastingFollowTheFieldsRules() { CheckScenario(); }
 
-    void fieldsHoldLongPastes()
-    {
-        TestSession const session;
-        QString const nines(40'000, u'9');
-        session.play("focus total; paste " + nines);
-        session.expectFields("total=" + nines);
-    }
-
     void undoKeyUndoesTypingFirst_data() { AddRows(kUndone); }
     void undoKeyUndoesTypingFirst() { CheckScenario(kTwoEntries); }
 

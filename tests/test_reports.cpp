@@ -184,7 +184,7 @@ private slots:
     void dialogsAreTheDesktopsOwn()
     {
         TestSession const session;
-        TestSession::useRealDoors();
+        PlatformDoors() = realDoors;
         OnDialog([](QWidget* widget) {
             auto* const dialog = qobject_cast<QFileDialog*>(widget);
             QMetaObject::invokeMethod(dialog, "reject", Qt::QueuedConnection);
