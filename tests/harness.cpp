@@ -89,9 +89,7 @@ TestSession::TestSession(std::vector<Box> boxes) : expectedBoxes_(std::move(boxe
         int const answer = expectedBoxes_.front().answer;
         expectedBoxes_.erase(expectedBoxes_.begin());
         isBoxUp_ = true;
-        if (whileBoxIsUp) {
-            whileBoxIsUp();
-        }
+        whileBoxIsUp();
         isBoxUp_ = false;
         return answer;
     };
@@ -103,9 +101,7 @@ TestSession::TestSession(std::vector<Box> boxes) : expectedBoxes_(std::move(boxe
         dialogs.emplace_back();
         fault = printFault;
         printer.setOutputFileName(fileToChoose);
-        if (setUpPrinter) {
-            setUpPrinter(printer);
-        }
+        setUpPrinter(printer);
         return !fileToChoose.isEmpty() && fault.empty();
     };
     PlatformDoors().browser = [this](std::string const& address) { openedAddress = address; };

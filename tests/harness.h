@@ -116,14 +116,14 @@ public:
     ///   write amin=80 amax=97   writes as the program does
     void play(QString const& acts, Caller caller = {}) const;
 
-    QString startScale;                          ///< the texts of the scale before the tests' own was written
-    std::string openedAddress;                   ///< the last address that was to be opened
-    QString fileToChoose;                        ///< the file that the dialogs choose; empty cancels them
-    std::vector<FileDialogRequest> dialogs;      ///< the dialogs that came; for a print dialog all is empty
-    std::string printFault;                      ///< why no print dialog can be shown; empty if it can
-    std::function<void(QPrinter&)> setUpPrinter; ///< what is done in the print dialog, if anything
-    std::function<void()> whileBoxIsUp;          ///< runs before a box is answered, if anything
-    std::string lastBox;                         ///< the text of the last box
+    QString startScale;                     ///< the texts of the scale before the tests' own was written
+    std::string openedAddress;              ///< the last address that was to be opened
+    QString fileToChoose;                   ///< the file that the dialogs choose; empty cancels them
+    std::vector<FileDialogRequest> dialogs; ///< the dialogs that came; for a print dialog all is empty
+    std::string printFault;                 ///< why no print dialog can be shown; empty if it can
+    std::function<void(QPrinter&)> setUpPrinter = [](QPrinter&) {}; ///< what is done in the print dialog
+    std::function<void()> whileBoxIsUp = [] {};                     ///< runs before a box is answered
+    std::string lastBox;                                            ///< the text of the last box
 
 private:
     static void reportMissing(QString const& name, char const* in, Caller caller);

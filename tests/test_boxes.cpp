@@ -29,11 +29,6 @@ std::optional<int> AnswerTo(bool isQuestion, auto const& act)
     return isOpen ? std::nullopt : std::optional(answer);
 }
 
-void Press(QKeyCombination key)
-{
-    QTest::keyClick(QApplication::focusWidget(), key.key(), key.keyboardModifiers());
-}
-
 /// Presses Return at this time in milliseconds.
 void PressAt(quint64 time, QWidget* receiver, bool isHeld)
 {
@@ -99,12 +94,14 @@ private slots:
                 QTest::qWait(50);
                 int const before = quiet.remainingTime();
                 QWidget const* const focused = QApplication::focusWidget();
-                Press(key);
+                QTest::keyClick(box.focusWidget(), key.key(), key.keyboardModifiers());
                 QVERIFY2(quiet.remainingTime() > before && QApplication::focusWidget() == focused,
                          qPrintable(QKeySequence(key).toString()));
             }
             quiet.stop();
-            std::ranges::for_each(row->keys, Press);
+            for (QKeyCombination const key : row->keys) {
+                QTest::keyClick(box.focusWidget(), key.key(), key.keyboardModifiers());
+            }
             bool const isByAlt = row->keys.back().keyboardModifiers() != Qt::NoModifier;
             static_cast<void>(isByAlt &&
                               QTest::qWaitFor([&box] { return box.isHidden(); })); // it shows a while

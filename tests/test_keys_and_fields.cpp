@@ -77,7 +77,6 @@ Scenario const kUndone[] = {
     {"no entry without a whole point", "write total=0.4; missed=0 Return; key Ctrl+Z", {{kNeedsPoints}}, "numstudents=2"},
     {"no entry after a text is restored", "focus bmax; key 5; key Ctrl+Z", {{kDeletesData, kNo}}, "numstudents=2"},
     {"no entry after the points are", "focus total; key 5; key Ctrl+Z", {{kPointsAreFixed}}, "numstudents=2"},
-    {"an entry by the menu item", "missed=45 Return; EditUndo", {{kTooManyMissed}}, "numstudents=1"},
     {"an entry after another command", "missed=45 Return; PushButton2; key Ctrl+Z", {{kTooManyMissed}}, "numstudents=1"},
     {"an entry after the focus moved", "missed=45 Return; focus lastmissed; key Ctrl+Z", {{kTooManyMissed}},
      "numstudents=1"},

@@ -160,7 +160,7 @@ private slots:
         session.fileToChoose = u"a printer"_s;
         session.expectBox("The results could not be printed: the printer \"\" did not take them.");
         session.play("FilePrint");
-        session.setUpPrinter = nullptr;
+        session.setUpPrinter = [](QPrinter&) {};
         session.fileToChoose = session.pathOf("no/file");
         session.whileBoxIsUp = [&] { QVERIFY(!session.lastBox.ends_with(": .")); };
         session.expectBox("The results could not be printed to the file \"file\": ");
@@ -208,16 +208,15 @@ private slots:
         });
         session.play("FileExport");
         QCOMPARE(ContentOf(session.pathOf("percents")), "90\n"_ba);
-        if (kIsWindows) {
-            return; // the print dialog is the system's own, which can't be driven from here
+        if (!kIsWindows) { // where the print dialog is the system's own, which can't be driven from here
+            session.activate();
+            OnDialog([](QWidget* widget) {
+                auto* const dialog = qobject_cast<QPrintDialog*>(widget);
+                QMetaObject::invokeMethod(dialog, "reject", Qt::QueuedConnection);
+                QCOMPARE(dialog->maxPage(), 1);
+            });
+            session.play("FilePrint");
         }
-        session.activate();
-        OnDialog([](QWidget* widget) {
-            auto* const dialog = qobject_cast<QPrintDialog*>(widget);
-            QMetaObject::invokeMethod(dialog, "reject", Qt::QueuedConnection);
-            QCOMPARE(dialog->maxPage(), 1);
-        });
-        session.play("FilePrint");
     }
 };
 

@@ -93,7 +93,7 @@ private slots:
         session.form().gradingscaletest();
         session.expectScale(row->scale);
         session.expectFields("foundaproblem="_L1 + row->mark);
-        session.whileBoxIsUp = nullptr;
+        session.whileBoxIsUp = [] {};
         session.form().gradingscaletest();
         session.expectFields("foundaproblem="_L1 + row->mark); // once set it stays
     }
