@@ -18,9 +18,9 @@
 
 #include <algorithm>
 
-namespace {
+Doors realDoors;
 
-Doors realDoors; // those of the desktop
+namespace {
 
 /// Each name and text in "percentage=29 lettergrade=F".
 QRegularExpression const kNameAndText(u"(\\w+)=(.*?)(?= \\w+=|$)"_s,
@@ -28,15 +28,15 @@ QRegularExpression const kNameAndText(u"(\\w+)=(.*?)(?= \\w+=|$)"_s,
 
 QString RowsOf(QAbstractTableModel const& model)
 {
-    QString rows;
-    for (int i = 0; i < model.rowCount() * model.columnCount(); ++i) {
-        int const column = i % model.columnCount();
-        if (i > 0) {
-            rows += column > 0 ? u',' : u';';
+    QStringList rows;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        QStringList cells;
+        for (int column = 0; column < model.columnCount(); ++column) {
+            cells += model.index(row, column).data().toString();
         }
-        rows += model.index(i / model.columnCount(), column).data().toString();
+        rows += cells.join(u',');
     }
-    return rows;
+    return rows.join(u';');
 }
 
 bool IsExpected(MessageBoxRequest const& request, TestSession::Box const& box)
@@ -44,11 +44,6 @@ bool IsExpected(MessageBoxRequest const& request, TestSession::Box const& box)
     bool const isWhole = !box.text.ends_with(' ');
     return (isWhole ? request.text == box.text : request.text.starts_with(box.text)) &&
            request.title.empty() && request.question == (box.answer != 0);
-}
-
-void Fail(QString const& message, Caller caller)
-{
-    QTest::qFail(qPrintable(message), caller.file, caller.line);
 }
 
 void Drop(QWidget* field, QString const& text)
@@ -63,14 +58,11 @@ void Drop(QWidget* field, QString const& text)
 }
 
 /// Presses a key: "Ctrl+Z".
-void PressKey(QString const& name, Caller caller)
+void PressKey(QString const& name)
 {
     QKeyCombination const key = QKeySequence(name)[0];
-    if (key.key() == 0 || key.key() == Qt::Key_unknown) {
-        Fail("there is no such key: " + name, caller);
-    } else {
-        QTest::keyClick(QApplication::focusWidget(), key.key(), key.keyboardModifiers());
-    }
+    QVERIFY2(key.key() != 0 && key.key() != Qt::Key_unknown, qPrintable(name));
+    QTest::keyClick(QApplication::focusWidget(), key.key(), key.keyboardModifiers());
 }
 
 } // namespace
@@ -97,9 +89,7 @@ TestSession::TestSession(std::vector<Box> boxes) : expectedBoxes_(std::move(boxe
         int const answer = expectedBoxes_.front().answer;
         expectedBoxes_.erase(expectedBoxes_.begin());
         isBoxUp_ = true;
-        if (whileBoxIsUp) {
-            whileBoxIsUp();
-        }
+        whileBoxIsUp();
         isBoxUp_ = false;
         return answer;
     };
@@ -111,16 +101,17 @@ TestSession::TestSession(std::vector<Box> boxes) : expectedBoxes_(std::move(boxe
         dialogs.emplace_back();
         fault = printFault;
         printer.setOutputFileName(fileToChoose);
-        if (setUpPrinter) {
-            setUpPrinter(printer);
-        }
+        setUpPrinter(printer);
         return !fileToChoose.isEmpty() && fault.empty();
     };
     PlatformDoors().browser = [this](std::string const& address) { openedAddress = address; };
     ::mainscreen();
     startScale = texts(kScaleFieldNames);
     if (!QFile::exists(PreferencesPath())) {
-        writeTestScale();
+        for (int i = 0; i < 24; ++i) {
+            setFields(QString(kScaleFieldNames).section(u' ', i, i) + u'=' +
+                      QString(kTestScale).section(u' ', i, i));
+        }
     }
     activate();
 }
@@ -132,14 +123,6 @@ TestSession::~TestSession()
     for (Box const& box : expectedBoxes_) {
         QTest::qFail(("box did not come: " + box.text).c_str(), __FILE__, __LINE__);
     }
-}
-
-void TestSession::useRealDoors()
-{
-    PlatformDoors().messageBox = realDoors.messageBox;
-    PlatformDoors().fileDialog = realDoors.fileDialog;
-    PlatformDoors().printDialog = realDoors.printDialog;
-    PlatformDoors().browser = realDoors.browser;
 }
 
 QMainWindow* TestSession::window(char const* name) const
@@ -154,7 +137,8 @@ QMainWindow* TestSession::window(char const* name) const
 
 void TestSession::reportMissing(QString const& name, char const* in, Caller caller)
 {
-    Fail(u"there is no such control or command: \"%1\" in \"%2\""_s.arg(name, QLatin1String(in)), caller);
+    QString const message = u"there is no such control or command: \"%1\" in \"%2\""_s;
+    QTest::qFail(qPrintable(message.arg(name, QLatin1String(in))), caller.file, caller.line);
 }
 
 QString TestSession::text(QString const& name, char const* in, Caller caller) const
@@ -177,7 +161,8 @@ void TestSession::expectFields(QString const& expected, char const* in, Caller c
 {
     for (auto const& match : kNameAndText.globalMatch(expected)) {
         if (QString const found = text(match.captured(1), in, caller); found != match.captured(2)) {
-            Fail(u"found \"%1\", expected %2"_s.arg(found, match.captured()), caller);
+            QString const message = u"found \"%1\", expected %2"_s.arg(found, match.captured());
+            QTest::qFail(qPrintable(message), caller.file, caller.line);
         }
     }
 }
@@ -203,21 +188,12 @@ QList<QAction*> TestSession::menuItems() const
     return all;
 }
 
-void TestSession::activate(char const* name, Caller caller) const
+void TestSession::activate(char const* name) const
 {
     QMainWindow* const wanted = window(name);
-    if (wanted == nullptr) {
-        Fail(u"there is no such window: "_s + name, caller);
-        return;
-    }
+    QVERIFY2(wanted != nullptr, name);
     wanted->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(wanted));
-}
-
-QLineEdit* TestSession::enterField(QString const& name, Caller caller) const
-{
-    play("focus " + name, caller);
-    return field(name, "mainscreen", caller);
 }
 
 void TestSession::type(QString const& name, QString const& text, char const* in, Caller caller) const
@@ -238,19 +214,6 @@ void TestSession::setFields(QString const& fields, Caller caller) const
     }
 }
 
-void TestSession::writeTestScale() const
-{
-    for (int i = 0; i < 24; ++i) {
-        setFields(QString(kScaleFieldNames).section(u' ', i, i) + u'=' +
-                  QString(kTestScale).section(u' ', i, i));
-    }
-}
-
-void TestSession::enterScores(QString const& points, QStringList const& missed) const
-{
-    play("total=" + points + "; missed=" + missed.join(u" Return; missed=") + " Return");
-}
-
 void TestSession::play(QString const& acts, Caller caller) const
 {
     QList<QAction*> const items = menuItems();
@@ -260,7 +223,7 @@ void TestSession::play(QString const& acts, Caller caller) const
         QString const rest = act.section(u' ', 1);
         auto const command = std::ranges::find(items, act, &QAction::objectName);
         if (QApplication::focusWidget() == nullptr) { // a box was open
-            activate("mainscreen", caller);
+            activate();
         }
         if (word == "write"_L1) {
             setFields(rest, caller);
@@ -268,7 +231,7 @@ void TestSession::play(QString const& acts, Caller caller) const
             control(rest)->setFocus(Qt::TabFocusReason);
             QCoreApplication::processEvents();
         } else if (word == "key"_L1) {
-            PressKey(rest, caller);
+            PressKey(rest);
         } else if (word == "keys"_L1) {
             QTest::keyClicks(QApplication::focusWidget(), rest);
         } else if (word == "paste"_L1) {

@@ -39,6 +39,9 @@ inline constexpr char const* kScaleFieldNames =
 inline constexpr char const* kTestScale =
     "100 98 97 93 92 90 89 88 87 83 82 80 79 78 77 73 72 70 69 68 67 63 62 60";
 
+/// Those of the desktop, which a session replaces.
+extern Doors realDoors;
+
 /// The line of a test that a failure names.
 struct Caller {
     Caller(char const* inFile = __builtin_FILE(), int inLine = __builtin_LINE()) : file(inFile), line(inLine)
@@ -66,9 +69,6 @@ public:
     ~TestSession();
 
     void expectBox(std::string const& text, int answer = 0) { expectedBoxes_.push_back({text, answer}); }
-    [[nodiscard]] bool allBoxesSeen() const { return expectedBoxes_.empty(); }
-    /// From now on boxes and dialogs are the real ones of the desktop.
-    static void useRealDoors();
 
     [[nodiscard]] class mainscreen& form() const { return ::mainscreen(); }
     [[nodiscard]] QMainWindow* window(char const* name = "mainscreen") const;
@@ -101,34 +101,29 @@ public:
     void expectScale(QString const& numbers, Caller caller = {}) const;
 
     /// Brings the window to the front and waits until it is active.
-    void activate(char const* name = "mainscreen", Caller caller = {}) const;
-    /// Moves the focus to a field as Tab does; its GotFocus has been raised when this returns.
-    [[nodiscard]] QLineEdit* enterField(QString const& name, Caller caller = {}) const;
+    void activate(char const* name = "mainscreen") const;
     /// Replaces a field's text by typing, key by key; a line end is a press of Return.
     void type(QString const& name, QString const& text, char const* in = "mainscreen",
               Caller caller = {}) const;
-    /// Types the number of points, then each number missed with Return.
-    void enterScores(QString const& points, QStringList const& missed) const;
     /// Writes texts as the program does: "amin=80 amax=97".
     void setFields(QString const& fields, Caller caller = {}) const;
-    void writeTestScale() const;
     /// Carries acts out in their order, separated by "; ", and fails for a name that the form does not have:
     ///   missed=3     types into the field, "missed=3 Return" presses Return then
     ///   EditUndo     chooses the command of that name, or else clicks the control
-    ///   focus amin   enters the field; key Left, keys 96 and paste 12 act on the focused one, and so do compose 9
+    ///   focus amin   enters the field as Tab does; key Left, keys 96 and paste 12 act on the focused one, and so do compose 9
     ///                and commit 9 of an input method
     ///   drop amax 6  drops a text on the field; edit amax 6 sets it as an assistive program does
     ///   write amin=80 amax=97   writes as the program does
     void play(QString const& acts, Caller caller = {}) const;
 
-    QString startScale;                          ///< the texts of the scale before the tests' own was written
-    std::string openedAddress;                   ///< the last address that was to be opened
-    QString fileToChoose;                        ///< the file that the dialogs choose; empty cancels them
-    std::vector<FileDialogRequest> dialogs;      ///< the dialogs that came; for a print dialog all is empty
-    std::string printFault;                      ///< why no print dialog can be shown; empty if it can
-    std::function<void(QPrinter&)> setUpPrinter; ///< what is done in the print dialog, if anything
-    std::function<void()> whileBoxIsUp;          ///< runs before a box is answered, if anything
-    std::string lastBox;                         ///< the text of the last box
+    QString startScale;                     ///< the texts of the scale before the tests' own was written
+    std::string openedAddress;              ///< the last address that was to be opened
+    QString fileToChoose;                   ///< the file that the dialogs choose; empty cancels them
+    std::vector<FileDialogRequest> dialogs; ///< the dialogs that came; for a print dialog all is empty
+    std::string printFault;                 ///< why no print dialog can be shown; empty if it can
+    std::function<void(QPrinter&)> setUpPrinter = [](QPrinter&) {}; ///< what is done in the print dialog
+    std::function<void()> whileBoxIsUp = [] {};                     ///< runs before a box is answered
+    std::string lastBox;                                            ///< the text of the last box
 
 private:
     static void reportMissing(QString const& name, char const* in, Caller caller);

@@ -29,12 +29,6 @@ std::optional<int> AnswerTo(bool isQuestion, auto const& act)
     return isOpen ? std::nullopt : std::optional(answer);
 }
 
-void Press(QKeyCombination key)
-{
-    QString const text = key.key() < Qt::Key_Escape ? QString(QChar(key.key())).toLower() : QString();
-    QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), key.key(), text, key.keyboardModifiers());
-}
-
 /// Presses Return at this time in milliseconds.
 void PressAt(quint64 time, QWidget* receiver, bool isHeld)
 {
@@ -100,12 +94,14 @@ private slots:
                 QTest::qWait(50);
                 int const before = quiet.remainingTime();
                 QWidget const* const focused = QApplication::focusWidget();
-                Press(key);
+                QTest::keyClick(box.focusWidget(), key.key(), key.keyboardModifiers());
                 QVERIFY2(quiet.remainingTime() > before && QApplication::focusWidget() == focused,
                          qPrintable(QKeySequence(key).toString()));
             }
             quiet.stop();
-            std::ranges::for_each(row->keys, Press);
+            for (QKeyCombination const key : row->keys) {
+                QTest::keyClick(box.focusWidget(), key.key(), key.keyboardModifiers());
+            }
             bool const isByAlt = row->keys.back().keyboardModifiers() != Qt::NoModifier;
             static_cast<void>(isByAlt &&
                               QTest::qWaitFor([&box] { return box.isHidden(); })); // it shows a while
@@ -146,8 +142,8 @@ private slots:
             TestSession const session;
             session.play("filepresent");
             session.activate();
-            session.enterScores("30", {"3", "6"});
-            TestSession::useRealDoors();
+            session.play("total=30; missed=3 Return; missed=6 Return");
+            PlatformDoors() = realDoors;
             QAccessibleInterface const& all = *QAccessible::queryAccessibleInterface(session.window());
             QString found;
             QWidget const* focused = nullptr;
@@ -199,7 +195,7 @@ private slots:
         session.play("filepresent");
         session.activate();
         session.play("write aplusmin=95; focus amax");
-        TestSession::useRealDoors();
+        PlatformDoors() = realDoors;
         int boxes = 0;
         QTimer closer;
         connect(&closer, &QTimer::timeout, this, [&boxes] {

@@ -62,10 +62,11 @@ private slots:
     void keysInScaleFieldsAskFirstAndNoRestoresTheText()
     {
         TestSession session;
-        session.enterScores("40", {"4"});
+        session.play("total=40; missed=4 Return");
         for (QString const& name : kNames) {
             QString const before = session.text(name);
-            QLineEdit* const field = session.enterField(name);
+            session.play("focus " + name);
+            QLineEdit* const field = session.field(name);
             session.expectFields("fileresetfield=" + before);
             session.whileBoxIsUp = [&] { session.expectFields(name + u'=' + before); };
             field->deselect();
@@ -87,7 +88,7 @@ private slots:
             QString const fields = kNames[2 * band - 1] + "=%1 "_L1 + kNames[2 * band] + "=%2"_L1;
             QString const expected = fields.arg(row->minimumAfter, row->maximumAfter);
             TestSession session;
-            session.enterScores("40", {"4"});
+            session.play("total=40; missed=4 Return");
             session.setFields(fields.arg(row->minimum, row->maximum));
             if (QString(row->minimum) != row->minimumAfter) {
                 session.expectBox(Notice(band));

@@ -100,16 +100,13 @@ bool ShowsFocus(QWidget& control)
 void CheckControls(QWidget const& content, QString const& style)
 {
     bool const hasOwnColors = content.window()->objectName() != "Author"_L1; // that has the desktop's
-    bool hasStops = false;
     for (QWidget* const control : content.findChildren<QWidget*>()) {
         QString const name = style + u' ' + control->objectName();
         bool const isShown = control->isVisible() && control->isEnabled();
         bool const isStop = isShown && (control->focusPolicy() & Qt::TabFocus) != 0;
         QVERIFY2(!isShown || !hasOwnColors || IsLegible(*control), qPrintable(name));
         QVERIFY2(!isStop || ShowsFocus(*control), qPrintable(name));
-        hasStops = hasStops || isStop;
     }
-    QVERIFY(hasStops);
 }
 
 void UseStyle(QString const& style, Theme const& theme)
@@ -136,7 +133,7 @@ private slots:
     void listsDrawCellsAndSelectedRowsWhereTheyBelong()
     {
         TestSession const session;
-        session.enterScores("30", {"3", "6", "9"});
+        session.play("total=30; missed=3 Return; missed=6 Return; missed=9 Return");
         auto* const list = session.widget<QTableView>("ListBox1");
         auto const changedBy = [list](auto const& act) {
             QImage const before = ScreenOf(*list->viewport());
@@ -193,7 +190,7 @@ private slots:
         for (QString const& style : QStyleFactory::keys()) {
             UseStyle(style, *row);
             TestSession const session;
-            session.enterScores("40", {"4", "8"});
+            session.play("total=40; missed=4 Return; missed=8 Return");
             for (char const* const name : {"mainscreen", "Window1", "Author"}) {
                 if (name == "Window1"_L1) {
                     ::Window1(); // not earlier, since Windows may bring a new window to the front late

@@ -51,18 +51,15 @@ private slots:
         session.play("total=30" + u"; missed=3 Return"_s.repeated(20));
         session.play("focus total; key Tab");
         QWidget const* const first = QApplication::focusWidget();
-        int stops = 0;
         do {
             QWidget const* const before = QApplication::focusWidget();
             session.play("key Tab");
             QWidget const* const control = QApplication::focusWidget();
             QVERIFY(control != before && !control->objectName().isEmpty());
-            ++stops;
             QVERIFY2(qobject_cast<QTableView const*>(control) != nullptr ||
                          IsInSight(*control, control->rect()),
                      qPrintable(control->objectName()));
         } while (QApplication::focusWidget() != first);
-        QVERIFY(stops > 40);
         auto const* const list = session.widget<QTableView>("ListBox1");
         for (char const* const key : {"Home", "End", "Home"}) {
             session.play(u"focus ListBox1; key "_s + key);

@@ -85,7 +85,8 @@ void CheckState(State const& now)
     QVERIFY2(entries < 2 || field("problem").isEmpty(), "one Undo does not clear two entries");
 }
 
-void CheckStep(State const& before, State const& now)
+/// A press of Grade makes an entry, or it is refused and changes the scale and a few fields alone.
+void CheckStep(State const& before, State const& now, bool isGrading)
 {
     qsizetype const kept = std::min(before.entries(), now.entries());
     QVERIFY2(now.entries() == 0 || std::abs(now.entries() - before.entries()) <= 1,
@@ -97,16 +98,11 @@ void CheckStep(State const& before, State const& now)
         bool const isSame = now.files.contains(path) && now.files[path] == before.files.value(path);
         QVERIFY2(isSame || IsWhole(now.files.value(path), now), qPrintable(u"%1 is whole"_s.arg(path)));
     }
-}
-
-/// A press of Grade makes an entry, or it is refused and changes the scale and a few fields alone.
-void CheckGrading(State const& before, State const& now)
-{
-    bool const isEntered = now.entries() > before.entries();
-    QVERIFY2(now.entries() >= before.entries(), "Grade removes nothing");
+    bool const isRefused = isGrading && now.entries() <= before.entries();
+    QVERIFY2(!isRefused || now.entries() == before.entries(), "Grade removes nothing");
     QStringList const mayChange = kScale + u"missed pointstemp problem foundaproblem"_s.split(u' ');
     for (QString const& name : before.fields.keys()) {
-        QVERIFY2(isEntered || mayChange.contains(name) || before.fields[name] == now.fields[name],
+        QVERIFY2(!isRefused || mayChange.contains(name) || before.fields[name] == now.fields[name],
                  qPrintable(u"a refused press leaves %1 alone"_s.arg(name)));
     }
 }
@@ -273,10 +269,7 @@ private: // NOLINT(readability-redundant-access-specifiers): what follows are no
         State const now(*session_);
         entries_ += now.entries() > before.entries() ? 1 : 0;
         CheckState(now);
-        CheckStep(before, now);
-        if (isMain && !isOver && course_.last().startsWith(u"missed="_s)) {
-            CheckGrading(before, now);
-        }
+        CheckStep(before, now, isMain && !isOver && course_.last().startsWith(u"missed="_s));
     }
 
     int acts_;

@@ -105,7 +105,7 @@ private slots:
         QCOMPARE(std::exchange(session.openedAddress, ""), std::string(WEB_PAGE));
         QTest::mouseRelease(button, Qt::LeftButton);
         QCOMPARE(session.openedAddress, std::string());
-        TestSession::useRealDoors();
+        PlatformDoors() = realDoors;
         QDesktopServices::setUrlHandler(u"https"_s, this, "open");
         QTest::mouseDClick(button, Qt::LeftButton);
         QDesktopServices::unsetUrlHandler(u"https"_s);
@@ -148,16 +148,14 @@ private slots:
         session.play("filepresent");
         session.type("EditField1", "80\n", "Window1");
         session.type("EditField1", "73\n", "Window1");
-        QVERIFY(session.text("ListBox1", "Window1").startsWith("0,100;-1,98.63014;"_L1)); // seven digits
-        QVERIFY(session.text("ListBox2", "Window1").startsWith("-36,50.68493;-37,"_L1));
         QModelIndex const last = session.widget<QTableView>("ListBox1", "Window1")->model()->index(35, 1);
         QVERIFY((last.data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight) != 0);
         session.expectFields("ListBox5=-71,2.739726;-72,1.369863;-73,0 ListBox7=2;1;0", "Window1");
         session.expectBox("This feature of Gradeloom can only present 105 percentages.");
         session.type("EditField1", "106\n", "Window1");
-        session.expectFields("EditField1=106", "Window1");
-        session.expectFields("ListBox1= ListBox2= ListBox3= ListBox4= ListBox5= ListBox6= ListBox7=",
-                             "Window1");
+        session.expectFields(
+            "EditField1=106 ListBox1= ListBox2= ListBox3= ListBox4= ListBox5= ListBox6= ListBox7=",
+            "Window1");
     }
 
     void presenterIsOneWindowUntilItCloses()
@@ -165,7 +163,6 @@ private slots:
         TestSession const session;
         session.play("filepresent");
         session.type("EditField1", "1\n", "Window1");
-        QAction const* const file = session.menuItems()[1];
         for (bool const isMinimized : {false, true}) {
             session.window("Window1")->setWindowState(isMinimized ? Qt::WindowMinimized : Qt::WindowNoState);
             session.activate();
@@ -176,8 +173,6 @@ private slots:
         session.expectFields("EditField1=1 ListBox1=0,100;-1,0", "Window1");
         session.window("Window1")->close();
         QVERIFY(session.window("Window1") == nullptr && Program::instance().front.window() == nullptr);
-        QMetaObject::invokeMethod(file->menu(), "aboutToShow"); // with no window in front
-        QVERIFY(!session.form().FileOpen().Enabled());
         session.activate();
         session.play("filepresent");
         session.expectFields("EditField1= ListBox1=", "Window1");
