@@ -1,9 +1,9 @@
 # shellcheck shell=bash
 # The tour's own desktop: a display, a window manager, and an empty home that is deleted at the end.
 
-declare program theme now front # set by its caller and by tour/hands.sh
-declare -A started=()           # process numbers by what runs
-part_start=0                    # the second in which this part of the tour began
+# Set by its caller and by tour/hands.sh: program, theme, now, front.
+declare -A started=() # process numbers by what runs
+part_start=0          # the second in which this part of the tour began
 home=
 
 step() {

@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 # A teacher's hands and eyes: keys, clicks, windows, fields, pictures. Needs tour/desktop.sh.
 
-declare theme main # set by its caller and by tour/desktop.sh
+# Set by its caller and by tour/desktop.sh: theme, main.
 declare -A started
 
 # --- the form, as its table states it

@@ -2,7 +2,7 @@
 # What fingers do by mistake or in a hurry. Each visit makes the class that it needs, and ends with the main window in
 # front and the default scale.
 
-declare default_scale mark # set by the other files of the tour
+# Set by the other files of the tour: default_scale, mark.
 
 # A class of a test of 40 points, in place of the one before.
 new_class() { # SCORE...

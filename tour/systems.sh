@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 # What desktops and the system do to the program. Each visit ends with the main window in front and the default scale.
 
-declare default_scale theme home preferences main front menu_bar # set by the other files of the tour
+# Set by the other files of the tour: default_scale, theme, home, preferences, main, front, menu_bar.
 declare -A started
 
 # --- screens and fonts

@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 # The program as it is meant to be used. Each visit starts and ends with the main window in front.
 
-declare theme home main front box shot # set by tour/desktop.sh and tour/hands.sh
+# Set by tour/desktop.sh and tour/hands.sh: theme, home, main, front, box, shot.
 
 default_scale=(100 98 97 93 92 90 89 88 87 83 82 80 79 78 77 73 72 70 69 68 67 63 62 60)
 

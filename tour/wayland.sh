@@ -2,7 +2,7 @@
 # A Wayland desktop, with hands and eyes for it. Its functions replace those of the same name, so that the same visits
 # can be played.
 
-declare -g home main menu_bar # set by the other files of the tour
+# Set by the other files of the tour: home, main, menu_bar.
 
 # --- the desktop
 
