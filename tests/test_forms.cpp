@@ -112,7 +112,8 @@ private slots:
 /// test_forms write: takes the forms as they are now over into tests/forms.
 int main(int count, char** arguments)
 {
-    isWriting = count == 2 && arguments[1] == std::string_view("write");
+    bool const mayWrite = !qEnvironmentVariableIsSet("CI"); // a run of checks takes nothing over, and fails
+    isWriting = mayWrite && count == 2 && arguments[1] == std::string_view("write");
     Forms tests;
     return RunTests(tests, isWriting ? 1 : count, arguments);
 }

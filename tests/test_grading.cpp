@@ -70,11 +70,15 @@ struct Order {
     char const* acts;
     char const* writes; // the controls whose content changes, in their order; no other may
     bool areEmptied = false;
+    std::vector<TestSession::Box> boxes = {};
 } const kOrders[] = {
     {"a number missed", "total=30; write missed=3", "PushButton1", "pointstemp problem lastmissed correct percentage "
      "lettergrade agrade numstudents average EditField1 missed ListBox1 ListBox2 ListBox3 ListBox4 ListBox5"},
     {"a number correct", "total=30; checkcorrect; write correct=30", "PushButton1", "pointstemp problem missed lastmissed "
      "percentage correct lettergrade agrade numstudents average EditField1 ListBox1 ListBox2 ListBox3 ListBox4 ListBox5"},
+    {"a refused press", "write amin=98 total=37.5", "PushButton1", "pointstemp problem box", false, {{kScaleUnsound, kNo}}},
+    {"points that may not change", "total=30; missed=3 Return; write total=", "focus total; key 7", "total box total total",
+     false, {{kPointsAreFixed}}},
     {"Undo", "total=30; missed=3 Return; missed=15 Return", "EditUndo", "fgrade numstudents average percentage "
      "EditField1 lastmissed lettergrade ListBox1 ListBox2 ListBox3 ListBox4 ListBox5 problem"},
     {"the last Undo", "total=30; missed=3 Return; write missed=9", "EditUndo", "correct lastmissed percentage lettergrade "
@@ -106,9 +110,10 @@ private slots:
     void controlsAreWrittenInOrder()
     {
         QFETCH(Order const*, row);
-        TestSession const session;
+        TestSession session(row->boxes);
         session.play(row->before);
         QString writes;
+        session.whileBoxIsUp = [&writes] { writes += "box "_L1; };
         for (QLineEdit* const field : session.window()->findChildren<QLineEdit*>()) {
             connect(field, &QLineEdit::textChanged, this,
                     [&writes, field] { writes += field->objectName() + u' '; });
