@@ -251,8 +251,12 @@ void TestSession::play(QString const& acts, Caller caller) const
             QString const text = act.section(u'=', 1).replace(u" Return"_s, u"\n"_s);
             type(act.section(u'=', 0, 0), text, "mainscreen", caller);
         } else if (command != items.end()) {
+            auto const before = QApplication::topLevelWidgets().size();
             (*command)->trigger();
             QCoreApplication::processEvents(); // without a key or click it runs a moment later
+            if (kIsWindows && QApplication::topLevelWidgets().size() > before) {
+                QTest::qWait(100); // milliseconds; the desktop may bring the new window to the front late
+            }
         } else {
             QTest::mouseClick(control(act), Qt::LeftButton);
         }
