@@ -8,8 +8,6 @@ namespace {
 Scenario const kScores[] = {
     {"29 % is 28.999999999999996 in doubles", "total=100; missed=71 Return", {},
      "percentage=29 lettergrade=F lastmissed=71 missed= correct=29 numstudents=1 average=28 EditField1=28"},
-    {"a comma of thousands", "total=1,000; missed=105 Return", {},
-     "percentage=89.5 lettergrade=A- lastmissed=105 missed= correct=895 numstudents=1 average=89 EditField1=89"},
     {"just below a half", "total=219; missed=23 Return", {},
      "percentage=89.49772 lettergrade=B+ lastmissed=23 missed= correct=196 average=89 EditField1=89"},
     {"just below a half, as correct", "checkcorrect; total=219; correct=196 Return", {},
@@ -18,8 +16,6 @@ Scenario const kScores[] = {
      "percentage=110 lettergrade=A+ lastmissed=-3 missed=-3 correct= average=110 EditField1=110"},
     {"half a point of the test is dropped", "total=37.5; missed=37 Return", {},
      "percentage=0 lettergrade=F lastmissed=37 correct=0 total=37.5 pointstemp=37.5"},
-    {"more points than an Integer holds", "total=99999999999999999999; missed=0 Return", {},
-     "percentage=100 correct=9223372036854775808"},
     {"more missed than whole points", "total=37.5; missed=37.5 Return", {{kTooManyMissed}},
      "missed= correct= lastmissed= percentage= numstudents= ListBox1= pointstemp=37.5 problem=1"},
     {"a negative number correct", "checkcorrect; total=30; correct=-1 Return", {{kTooManyMissed}},
@@ -161,8 +157,6 @@ private slots:
         QVERIFY(bar->singleStep() == 16 && bar->pageStep() == list->viewport()->height());
         session.play("EditUndo");
         QTRY_VERIFY(bar->maximum() == 19 * 16 - list->viewport()->height() && bar->value() == bar->maximum());
-        session.play("FileReset");
-        QTRY_COMPARE(bar->maximum(), 0);
     }
 };
 
