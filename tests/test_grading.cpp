@@ -152,7 +152,6 @@ private slots:
         QCOMPARE(list->model()->columnCount(), 2);
         session.play("total=30" + u"; missed=3 Return"_s.repeated(20));
         QScrollBar const* const bar = list->verticalScrollBar();
-        // The list scrolls before it is painted.
         QTRY_VERIFY(bar->maximum() == 20 * 16 - list->viewport()->height() && bar->value() == bar->maximum());
         QVERIFY(bar->singleStep() == 16 && bar->pageStep() == list->viewport()->height());
         session.play("EditUndo");
