@@ -253,7 +253,7 @@ void TestSession::play(QString const& acts, Caller caller) const
             QString const text = act.section(u'=', 1).replace(u" Return"_s, u"\n"_s);
             type(act.section(u'=', 0, 0), text, "mainscreen", caller);
         } else if (command != items.end()) {
-            auto const before = QApplication::topLevelWidgets().size();
+            [[maybe_unused]] auto const before = QApplication::topLevelWidgets().size();
             (*command)->trigger();
             QCoreApplication::processEvents(); // without a key or click it runs a moment later
             if (kIsWindows && QApplication::topLevelWidgets().size() > before) {

@@ -33,7 +33,7 @@ LineEdit::LineEdit(QWidget* parent) : TrackedLineEdit(parent)
 void LineEdit::writeByProgram(QString const& text)
 {
     setTextQuietly(text);
-    if (isReadOnly()) {
+    if (isReadOnly() && !isHidden()) { // nobody sees a hidden one, and fitting takes long
         QFont const fitted = CondensedFont(font(), text, width() - kFrame);
         if (fitted != font()) {
             setFont(fitted);
